@@ -1,0 +1,169 @@
+#include "base/number_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+#include "base/failure.h"
+
+namespace tessaplot::base {
+
+namespace {
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+const char* skipDigits(const char* at, const char* end) {
+    while (at != end && isDigit(*at)) ++at;
+    return at;
+}
+
+/// The end of the exponent that starts at `at`, or `at` itself if none stands there.
+const char* skipExponent(const char* at, const char* end) {
+    if (at == end || (*at != 'e' && *at != 'E')) return at;
+    const char* digits = at + 1;
+    if (digits != end && (*digits == '+' || *digits == '-')) ++digits;
+    const char* last = skipDigits(digits, end);
+    return last == digits ? at : last;
+}
+
+[[noreturn]] void failOverflow(std::string_view number) {
+    constexpr std::size_t longest = 40;
+    std::string shown(number.substr(0, longest));
+    if (number.size() > longest) shown += "...";
+    throw Failure(FailureCode::Overflow, "The number " + shown + " is out of range.");
+}
+
+/// True if the unsigned number [first, last) lies below 1, told by its decimal exponent alone.
+bool isBelowOne(const char* first, const char* last) {
+    const char* mark = std::find_if(first, last, [](char c) { return c == 'e' || c == 'E'; });
+    const char* point = std::find(first, mark, '.');
+    const char* leading = std::find_if(first, mark, [](char c) { return c != '0' && c != '.'; });
+    const std::ptrdiff_t magnitude = leading < point ? point - leading : point + 1 - leading;
+    int exponent = 0;
+    if (mark != last) {
+        const char* digits = mark[1] == '+' ? mark + 2 : mark + 1;
+        if (std::from_chars(digits, last, exponent).ec == std::errc::result_out_of_range) return *digits == '-';
+    }
+    return magnitude + exponent <= 0;
+}
+
+/// Value of the unsigned number [first, last), which is known to hold at least one digit.
+double unsignedValue(const char* first, const char* last) {
+    double value = 0;
+    if (std::from_chars(first, last, value).ec != std::errc::result_out_of_range) return value;
+    if (!isBelowOne(first, last)) failOverflow({first, static_cast<std::size_t>(last - first)});
+    return 0;
+}
+
+double valueWithoutBlanks(std::string_view text) {
+    const char* at = text.data();
+    const char* end = at + text.size();
+    const bool negative = at != end && *at == '-';
+    if (at != end && (*at == '-' || *at == '+')) ++at;
+    const char* whole = skipDigits(at, end);
+    const char* fraction = whole != end && *whole == '.' ? skipDigits(whole + 1, end) : whole;
+    const bool hasDigits = whole != at || fraction - whole > 1;
+    if (!hasDigits) return 0;
+    const double value = unsignedValue(at, skipExponent(fraction, end));
+    return negative ? -value : value;
+}
+
+template <class Float>
+std::string toShortest(Float value) {
+    char buffer[64];
+    const auto written = std::to_chars(std::begin(buffer), std::end(buffer), value);
+    return {buffer, written.ptr};
+}
+
+constexpr std::string_view fileCharacters = "-1234567890.+*/^()abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+constexpr std::string_view countCharacters = "-1234567890Ee.";
+
+}  // namespace
+
+double TextValue(std::string_view text) {
+    if (text.find(' ') == std::string_view::npos) return valueWithoutBlanks(text);
+    std::string joined(text);
+    std::erase(joined, ' ');
+    return valueWithoutBlanks(joined);
+}
+
+std::int32_t TextInteger(std::string_view text) {
+    return roundToInteger(TextValue(text));
+}
+
+std::int32_t roundToInteger(double value) {
+    const double rounded = std::nearbyint(value);
+    if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max()))
+        failOverflow(generalText(value));
+    return static_cast<std::int32_t>(rounded);
+}
+
+std::string generalText(double value) {
+    char buffer[64];
+    const auto written = std::to_chars(std::begin(buffer), std::end(buffer), value, std::chars_format::general, 15);
+    std::string text(buffer, written.ptr);
+    std::replace(text.begin(), text.end(), 'e', 'E');
+    return text;
+}
+
+std::string shortestText(double value) {
+    return toShortest(value);
+}
+
+std::string shortestText(float value) {
+    return toShortest(value);
+}
+
+std::string NumberToFileText(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (const char c : text) {
+        if (c == ' ') continue;
+        if (c == ',')
+            result += '.';
+        else if (fileCharacters.find(c) != std::string_view::npos)
+            result += c;
+        else
+            return {};
+    }
+    return result;
+}
+
+bool CheckNumberText(std::string_view text, std::string& result) {
+    result.clear();
+    for (const char c : text) {
+        if (c == ',')
+            result += '.';
+        else if (countCharacters.find(c) != std::string_view::npos)
+            result += c;
+        else
+            break;
+    }
+    return !result.empty();
+}
+
+bool CleanNumberText(std::string_view text, std::string& result) {
+    result.clear();
+    bool stopped = false;
+    for (const char c : text) {
+        if (c == ' ') continue;
+        if (c == ',') {
+            result += '.';
+        } else if (countCharacters.find(c) != std::string_view::npos) {
+            result += c;
+        } else {
+            stopped = true;
+            break;
+        }
+    }
+    if (!result.empty()) return true;
+    if (stopped) return false;
+    result = "0";
+    return true;
+}
+
+}  // namespace tessaplot::base

@@ -1,0 +1,31 @@
+#include "gl/display_list.h"
+
+#include <utility>
+
+namespace tessaplot::gl {
+
+void DisplayList::glCallLists(GLenum type, std::string_view text) {
+    record(Op::CallListsText, text.size(), type);
+    texts_.emplace_back(text);
+}
+
+void DisplayList::glTexImage2D(std::shared_ptr<const TextureImage> image) {
+    record(Op::TexImage2D);
+    images_.push_back(std::move(image));
+}
+
+void DisplayList::glCallList(DisplayListPtr list) {
+    record(Op::CallList);
+    lists_.push_back(std::move(list));
+}
+
+void DisplayList::reserve(std::size_t operations, std::size_t numbers) {
+    ops_.reserve(operations);
+    numbers_.reserve(numbers);
+}
+
+std::size_t DisplayList::bytes() const {
+    return ops_.capacity() * sizeof(Op) + numbers_.capacity() * sizeof(double) + lengths_.capacity();
+}
+
+}  // namespace tessaplot::gl
