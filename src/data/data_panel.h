@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/data_kind.h"
+
+namespace tessaplot::data {
+
+/// The data panel without its widgets: the kind, ten text boxes and the text grid. It is the master copy of the data.
+class DataPanel {
+ public:
+    static constexpr int maximumRows = 20000;  ///< Data rows of the grid store.
+    static constexpr int columns = 4;          ///< Data columns, numbered from 1; column 0 is the index.
+
+    DataPanel();
+
+    DataKind kind() const { return kind_; }
+    /// Changes labels and headers; all text stays in place.
+    void selectKind(DataKind kind) { kind_ = kind; }
+
+    /// Text of box 1 to 10.
+    const std::string& Text(int box) const;
+    void setText(int box, std::string text);
+
+    /// Rows of the grid with the header row, columns with the index column.
+    int gridRows() const { return gridRows_; }
+    int gridColumns() const { return gridColumns_; }
+    /// Throws a Failure that names the limit for sizes outside 1 to 65536.
+    void setGridSize(int rows, int columnCount);
+
+    /// The stored text; row and column from 1. Rows past the store throw SubscriptOutOfRange.
+    const std::string& cell(int column, int row) const;
+    void setCell(int column, int row, std::string text);
+
+    /// Answers the virtual grid: false for the header row and the index column, which the store does not serve.
+    bool GetCellText(int row, int column, std::string& text) const;
+    bool SetCellText(int row, int column, std::string_view text);
+
+    /// What stands in the index column: "i,j", "i,j,k" or a number, empty before a layout.
+    std::string indexText(int row) const;
+
+    /// Shapes the grid for the counts in the boxes; the texts stay in the store and reappear under the new shape.
+    /// Throws a Failure that names the limit for counts beyond the store.
+    void layOut();
+
+    /// Validates the boxes and cleans every cell; the first fault sets `message` and returns false.
+    bool CheckData(std::string& message);
+
+    /// Data rows that the counts in the boxes ask for. Throws a Failure for more than the store holds.
+    int dataRows() const;
+    /// The integer that box 1 to 10 holds, by its numeric prefix.
+    int count(int box) const;
+    /// The number that box 1 to 10 holds, by its numeric prefix.
+    double number(int box) const;
+
+    /// Drops the texts of all cells; kind, boxes and shape stay.
+    void clearCells();
+    /// Bytes held by the cells.
+    std::size_t bytes() const;
+
+ private:
+    enum class IndexForm { None, Number, Pair, Triple };
+    using Row = std::array<std::string, columns>;
+
+    void checkCell(int column, int row) const;
+    bool checkCounts(std::string& message);
+    bool cleanCells(std::string& message);
+
+    DataKind kind_ = DataKind::RegularSurface;
+    std::array<std::string, 10> boxes_;
+    std::vector<Row> rows_;  ///< Row n of the grid at n - 1, as far as any was written.
+    int gridRows_ = 101;
+    int gridColumns_ = 5;
+    IndexForm indexForm_ = IndexForm::None;
+    int indexColumns_ = 0;  ///< LastRowsY of the shape that the index column tells.
+    int indexLayers_ = 0;   ///< LastRowsZ.
+};
+
+}  // namespace tessaplot::data

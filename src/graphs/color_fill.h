@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string_view>
+
+#include "base/color.h"
+#include "graphs/graph.h"
+
+namespace tessaplot::graphs {
+
+/// Colour channels as floats, 0 to 1 for colours within a ramp or gradient.
+struct Rgb {
+    double r = 0;
+    double g = 0;
+    double b = 0;
+};
+
+Rgb ColorToRGB(base::PackedColor color);
+
+/// Loads the stops of a named ramp ("RAINBOW", "EARTH", "FIERY", "MARINE", "GREY", also with a leading "@", in any
+/// case) into the graph; any other name does nothing.
+void ApplyNamedMap(Cls9& graph, std::string_view name);
+
+/// The colour of `value` on the graph's ramp from `lower` over `range`. A value outside the ramp keeps `color` as it
+/// came, divided by 255. An empty colour name becomes "Rainbow".
+void ValueToRGB(Cls9& graph, double value, double lower, double range, Rgb& color);
+
+/// Runs over `span` from `second` at `lower` to `first` at the upper end, without a clamp.
+Rgb gradientColor(double value, double lower, double span, const Rgb& first, const Rgb& second);
+
+/// An exact 0 replaced by a millionth, for ranges that are divided by.
+constexpr double nonZeroSpan(double span) {
+    return span == 0 ? 1.0 / 1000000 : span;
+}
+
+}  // namespace tessaplot::graphs
