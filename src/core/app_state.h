@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/graph_list.h"
+#include "core/group.h"
+#include "data/data_panel.h"
+#include "data/data_set.h"
+#include "data/scaling.h"
+#include "gl/display_list.h"
+#include "platform/desktop.h"
+#include "scene/axis.h"
+#include "scene/box.h"
+#include "scene/light.h"
+#include "scene/scene_state.h"
+#include "scene/trackball.h"
+#include "scene/view.h"
+
+namespace tessaplot::core {
+
+/// The scene as it was compiled last: the list that every picture is made of, and what it calls.
+struct CompiledScene {
+    gl::DisplayListPtr body;     ///< Graphs and frame; the same for every sample and every camera.
+    gl::DisplayListPtr legends;  ///< Overlaid after the accumulation.
+    gl::DisplayListPtr list900;
+};
+
+/// The one state of the program: made once at the start, owns everything, passed by reference.
+struct AppState {
+    data::Scaling scaling;
+    data::GriddingChoice gridding;
+    scene::SceneState scene;
+    bool ShowLegend = true;
+    Cls8 AllGraphs;    ///< Every graph of the document.
+    Cls8 ShownGraphs;  ///< The ticked graphs: what is drawn and what is saved; its angles turn the scene.
+    GraphList List1;
+    scene::Cls1 SceneBox;
+    scene::Cls3 TheAxis;
+    data::DataPanel panel;
+    data::ClsData TheData;
+    int LastGraphId = 0;
+    scene::Cls4 TheView;
+    scene::Cls10 TheLight;
+    bool FitOnRefresh = false;
+    bool ShowEvalErrors = false;
+    scene::RotateMode RotateMode = scene::RotateMode::None;
+
+    scene::Quaternion CurQuat{0, 0, 0, 1};
+    bool UseQuat = false;  ///< The rotation is `CurQuat`; otherwise it comes from the group's angles.
+    bool QuickDraw = false;
+
+    CompiledScene compiled;
+    platform::Desktop desktop;
+
+    AppState();
+
+    graphs::GraphContext graphContext() const { return {TheData, panel.kind(), scaling, scene}; }
+};
+
+}  // namespace tessaplot::core
