@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "core/graph_list.h"
 #include "core/group.h"
 #include "data/data_panel.h"
@@ -18,6 +20,8 @@ namespace tessaplot::core {
 
 /// The scene as it was compiled last: the list that every picture is made of, and what it calls.
 struct CompiledScene {
+    std::vector<gl::DisplayListPtr> graphs;  ///< One list for each shown graph.
+    gl::DisplayListPtr frame;
     gl::DisplayListPtr body;     ///< Graphs and frame; the same for every sample and every camera.
     gl::DisplayListPtr legends;  ///< Overlaid after the accumulation.
     gl::DisplayListPtr list900;
@@ -49,8 +53,6 @@ struct AppState {
 
     CompiledScene compiled;
     platform::Desktop desktop;
-
-    AppState();
 
     graphs::GraphContext graphContext() const { return {TheData, panel.kind(), scaling, scene}; }
 };

@@ -23,8 +23,7 @@ struct Document {
     std::vector<graphs::Cls9> graphs;
     scene::Cls3 axis;
     std::optional<data::Scaling> scaling;  ///< Generation 4 only; the factors are not set.
-    data::GriddingChoice gridding;         ///< As the last graph record has it.
-    bool gridMethodsRead = false;
+    std::optional<data::GriddingChoice> gridding;  ///< As the last graph record has it.
 };
 
 inline constexpr int tokenTableSize = 500000;
@@ -40,10 +39,23 @@ void writeDocumentFile(const std::filesystem::path& path, std::string_view text)
 /// or rows than the tables hold and for numbers out of range.
 std::optional<Document> readDocument(std::string_view text);
 
-/// The text of the newest generation for the data of the panel, these graphs, the frame and the scaling.
-std::string documentText(const AppState& state, const std::vector<GraphPtr>& graphs);
+/// What a document is made of when it is written.
+struct DocumentParts {
+    int SceneMode;
+    const data::DataPanel& panel;
+    std::vector<const graphs::Cls9*> graphs;
+    const scene::Cls3& axis;
+    const data::Scaling& scaling;
+    const data::GriddingChoice& gridding;
+};
 
-/// The record of one graph, as it stands in a document and in the copy buffer.
+/// The state's own parts with the graphs of `group`.
+DocumentParts partsOf(const AppState& state, const Cls8& group);
+
+/// The text of a document of the newest generation; a mode that is none of the three has an empty tag.
+std::string documentText(const DocumentParts& parts);
+
+/// The record of one graph with its last blank, as it stands in a document and in the copy buffer.
 std::string graphRecord(const graphs::Cls9& graph, const data::GriddingChoice& gridding);
 
 /// What became of a document that was asked for.

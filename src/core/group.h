@@ -30,8 +30,8 @@ class Cls8 {
 
     /// The box of all graphs with a margin of 0.04 scene units. Throws Overflow if a limit is not a finite number.
     scene::Cls1 GetBox(const graphs::GraphContext& context) const;
-    /// Emits the graphs in order.
-    void Draw(gl::DisplayList& list, const graphs::GraphContext& context) const;
+    /// Records the graphs in order, each into a list of its own.
+    std::vector<gl::DisplayListPtr> Draw(const graphs::GraphContext& context) const;
 };
 
 }  // namespace tessaplot::core

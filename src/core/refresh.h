@@ -19,8 +19,14 @@ gl::DisplayList recordDisplay(AppState& state);
 /// `RebuildScene` after a change of camera, then the picture.
 void rebuildForCamera(AppState& state);
 
-/// Shows all of the shown graphs: the view volume becomes 2.1 times the largest extent of their box, moved aside for the
-/// legends if they are shown. Nothing without a shown graph.
+/// Sets the camera so that it shows all of the shown graphs: the view volume becomes 2.1 times the largest extent of their
+/// box, moved aside for the legends if they are shown. Nothing without a shown graph. The scene must be centred.
+void fitCamera(AppState& state);
+
+/// `fitCamera`, then the picture.
 void fitView(AppState& state);
+
+/// Puts the middle of the box of the shown graphs at the origin of the scene.
+void centreScene(AppState& state);
 
 }  // namespace tessaplot::core

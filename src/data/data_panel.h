@@ -15,8 +15,6 @@ class DataPanel {
     static constexpr int maximumRows = 20000;  ///< Data rows of the grid store.
     static constexpr int columns = 4;          ///< Data columns, numbered from 1; column 0 is the index.
 
-    DataPanel();
-
     DataKind kind() const { return kind_; }
     /// Changes labels and headers; all text stays in place.
     void selectKind(DataKind kind) { kind_ = kind; }
@@ -34,6 +32,9 @@ class DataPanel {
     /// The stored text; row and column from 1. Rows past the store throw SubscriptOutOfRange.
     const std::string& cell(int column, int row) const;
     void setCell(int column, int row, std::string text);
+
+    /// Makes room for that many rows at once.
+    void reserveRows(int rows);
 
     /// Answers the virtual grid: false for the header row and the index column, which the store does not serve.
     bool GetCellText(int row, int column, std::string& text) const;

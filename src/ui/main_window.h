@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -53,9 +54,13 @@ class frmF1 {
     void mnuFileExit_Click();
     void mnuViewFit_Click();
     void newSpatialDocument(int sceneMode);
+    void startSpatialDocument(int sceneMode);
+    platform::Answer askToSaveChanges() const;
+    /// Saves and, once that is done, deletes all graphs; false if the document stays.
+    bool saveAndClear();
+    void saveAs(const std::filesystem::path& path);
     void setStandardView(double roll, double pitch, double yaw);
-    void clearMouseModes();
-    void showFailure(const char* message) const;
+    void showFailure(const std::exception& failure) const;
 
     core::AppState& state_;
 };
@@ -66,7 +71,7 @@ bool frmF1::guarded(Action&& action) {
         action();
         return true;
     } catch (const std::exception& failure) {
-        showFailure(failure.what());
+        showFailure(failure);
         return false;
     }
 }

@@ -1,0 +1,68 @@
+#include "core/group.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/failure.h"
+
+namespace tessaplot::core {
+
+namespace {
+
+constexpr double startLimit = 99999999.0;
+constexpr double margin = 0.04;
+
+void requireFinite(const scene::Cls1& box) {
+    for (const double limit : {box.MinX, box.MaxX, box.MinY, box.MaxY, box.MinZ, box.MaxZ})
+        if (!std::isfinite(limit))
+            throw base::Failure(base::FailureCode::Overflow, "The box of the graphs is not finite.");
+}
+
+}  // namespace
+
+bool Cls8::contains(const graphs::Cls9& graph) const {
+    return std::any_of(Graphs.begin(), Graphs.end(), [&](const GraphPtr& held) { return held.get() == &graph; });
+}
+
+void Cls8::remove(const graphs::Cls9& graph) {
+    std::erase_if(Graphs, [&](const GraphPtr& held) { return held.get() == &graph; });
+}
+
+void Cls8::setAngles(double roll, double pitch, double yaw) {
+    RotRoll = roll;
+    RotPitch = pitch;
+    RotYaw = yaw;
+}
+
+scene::Cls1 Cls8::GetBox(const graphs::GraphContext& context) const {
+    scene::Cls1 box;
+    box.MinX = box.MinY = box.MinZ = startLimit;
+    box.MaxX = box.MaxY = box.MaxZ = -startLimit;
+    for (const GraphPtr& graph : Graphs) {
+        const scene::Cls1 one = graph->GetBox(context);
+        box.MinX = std::min(box.MinX, one.MinX);
+        box.MaxX = std::max(box.MaxX, one.MaxX);
+        box.MinY = std::min(box.MinY, one.MinY);
+        box.MaxY = std::max(box.MaxY, one.MaxY);
+        box.MinZ = std::min(box.MinZ, one.MinZ);
+        box.MaxZ = std::max(box.MaxZ, one.MaxZ);
+    }
+    for (double* minimum : {&box.MinX, &box.MinY, &box.MinZ}) *minimum -= margin;
+    for (double* maximum : {&box.MaxX, &box.MaxY, &box.MaxZ}) *maximum += margin;
+    requireFinite(box);
+    return box;
+}
+
+std::vector<gl::DisplayListPtr> Cls8::Draw(const graphs::GraphContext& context) const {
+    std::vector<gl::DisplayListPtr> drawn;
+    drawn.reserve(Graphs.size());
+    for (const GraphPtr& graph : Graphs) {
+        auto list = std::make_shared<gl::DisplayList>();
+        graph->Draw(*list, context);
+        drawn.push_back(std::move(list));
+    }
+    return drawn;
+}
+
+}  // namespace tessaplot::core

@@ -1,0 +1,106 @@
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "core/document.h"
+#include "core/refresh.h"
+
+namespace tessaplot::core {
+
+namespace {
+
+void takeScene(AppState& state, int sceneMode) {
+    state.scene.SceneMode = sceneMode;
+    if (sceneMode == scene::mode2D)
+        state.ShownGraphs.setAngles(0, 0, 0);
+    else
+        state.ShownGraphs.setAngles(0, -30, 45);
+    state.UseQuat = false;
+}
+
+void takeScaling(AppState& state, const data::Scaling& read) {
+    state.scaling.ScaleMode = read.ScaleMode;
+    state.scaling.ScaleRatioX = read.ScaleRatioX;
+    state.scaling.ScaleRatioY = read.ScaleRatioY;
+    state.scaling.ScaleRatioZ = read.ScaleRatioZ;
+    state.scaling.ZoomZ = read.ZoomZ;
+}
+
+void takeGraphs(AppState& state, std::vector<graphs::Cls9> graphs) {
+    for (graphs::Cls9& read : graphs) {
+        if (read.ID > state.LastGraphId) state.LastGraphId = read.ID + 1;
+        auto graph = std::make_shared<graphs::Cls9>(std::move(read));
+        state.AllGraphs.Graphs.push_back(graph);
+        state.List1.add(graph, state.scene.SceneMode);
+    }
+}
+
+bool isVolumePlot(const graphs::Cls9& graph) {
+    return graph.GraphType >= graphs::graph_type::scatter4D && graph.GraphType <= graphs::graph_type::isoSurface;
+}
+
+/// The third step count is not in the record; it follows from the data.
+void takeVolumeSteps(AppState& state) {
+    for (const GraphPtr& graph : state.AllGraphs.Graphs)
+        if (isVolumePlot(*graph)) graph->StepH = state.TheData.StepsZ - 1;
+}
+
+/// Ticks every entry. The view is fitted to the first graph alone, as its tick would do; the scene is compiled once.
+void tickAll(AppState& state) {
+    for (GraphList::Entry& entry : state.List1.entries) {
+        entry.ticked = true;
+        state.ShownGraphs.Graphs.push_back(entry.graph);
+        if (std::exchange(state.FitOnRefresh, false)) {
+            centreScene(state);
+            fitCamera(state);
+        }
+    }
+    RebuildScene(state);
+    state.desktop.displayPicture();
+}
+
+void untickAll(AppState& state) {
+    for (GraphList::Entry& entry : state.List1.entries) entry.ticked = false;
+    state.ShownGraphs.Graphs.clear();
+    RebuildScene(state);
+    state.desktop.displayPicture();
+}
+
+void showAllGraphs(AppState& state) {
+    state.TheData.GetData(state.panel, state.scaling, state.gridding, state.desktop);
+    takeVolumeSteps(state);
+    state.FitOnRefresh = true;
+    try {
+        tickAll(state);
+    } catch (...) {
+        untickAll(state);
+        throw;
+    }
+}
+
+}  // namespace
+
+LoadResult LoadDocument(AppState& state, const std::filesystem::path& path) {
+    if (path.empty()) return LoadResult::NoPath;
+    std::optional<Document> document;
+    {
+        const std::string text = readDocumentFile(path);
+        if (text.empty()) return LoadResult::EmptyFile;
+        document = readDocument(text);
+    }
+    DeleteAllGraphs(state);
+    state.LastGraphId = 0;
+    if (!document) return LoadResult::UnknownTag;
+
+    takeScene(state, document->SceneMode);
+    state.panel = std::move(document->panel);
+    document->axis.AxisStyle = state.TheAxis.AxisStyle;
+    state.TheAxis = std::move(document->axis);
+    if (document->scaling) takeScaling(state, *document->scaling);
+    if (document->gridding) state.gridding = *document->gridding;
+    takeGraphs(state, std::move(document->graphs));
+    showAllGraphs(state);
+    return LoadResult::Loaded;
+}
+
+}  // namespace tessaplot::core

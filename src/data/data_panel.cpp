@@ -1,0 +1,208 @@
+#include "data/data_panel.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <utility>
+
+#include "base/failure.h"
+#include "base/number_text.h"
+
+namespace tessaplot::data {
+
+namespace {
+
+constexpr int maximumGridSize = 65536;
+constexpr std::string_view illegalData = "Illegal data exist.";
+
+struct CountRule {
+    int box;
+    int least;
+    std::string_view message;
+};
+
+constexpr CountRule pointsRule{3, 3, "The number of points must larger than 3."};
+constexpr std::string_view rowsXMessage = "The number of Rows X must larger than 0.";
+constexpr std::string_view rowsYMessage = "The number of Rows Y must larger than 0.";
+constexpr std::string_view rowsZMessage = "The number of Rows Z must larger than 0.";
+
+std::vector<CountRule> countRules(DataKind kind) {
+    switch (kind) {
+        case DataKind::RegularSurface: return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}};
+        case DataKind::IrregularSurface: return {pointsRule, {4, 1, rowsXMessage}, {7, 1, rowsYMessage}};
+        case DataKind::RegularVolume: return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}, {4, 1, rowsZMessage}};
+        case DataKind::IrregularVolume:
+            return {pointsRule, {4, 1, rowsXMessage}, {7, 1, rowsYMessage}, {10, 1, rowsZMessage}};
+        default: return {};
+    }
+}
+
+std::vector<int> cleanedBoxes(DataKind kind) {
+    if (kind == DataKind::IrregularSurface) return {1, 2, 5, 6};
+    if (kind == DataKind::IrregularVolume) return {1, 2, 5, 6, 8, 9};
+    return {};
+}
+
+}  // namespace
+
+const std::string& DataPanel::Text(int box) const {
+    if (box < 1 || box > 10) base::failSubscript("Text", box, 1, 10);
+    return boxes_[static_cast<std::size_t>(box) - 1];
+}
+
+void DataPanel::setText(int box, std::string text) {
+    if (box < 1 || box > 10) base::failSubscript("Text", box, 1, 10);
+    boxes_[static_cast<std::size_t>(box) - 1] = std::move(text);
+}
+
+void DataPanel::setGridSize(int rows, int columnCount) {
+    if (rows < 1 || rows > maximumGridSize || columnCount < 1 || columnCount > maximumGridSize)
+        throw base::Failure(base::FailureCode::BadInput,
+                            "The number of rows or columns of the grid must be a value between 1 and 65536.");
+    gridRows_ = rows;
+    gridColumns_ = columnCount;
+}
+
+void DataPanel::checkCell(int column, int row) const {
+    if (column < 1 || column > columns) base::failSubscript("The columns of the data grid", column, 1, columns);
+    if (row < 1 || row > maximumRows) base::failSubscript("The rows of the data grid", row, 1, maximumRows);
+}
+
+const std::string& DataPanel::cell(int column, int row) const {
+    static const std::string blank;
+    checkCell(column, row);
+    const auto at = static_cast<std::size_t>(row) - 1;
+    return at < rows_.size() ? rows_[at][static_cast<std::size_t>(column) - 1] : blank;
+}
+
+void DataPanel::setCell(int column, int row, std::string text) {
+    checkCell(column, row);
+    const auto at = static_cast<std::size_t>(row) - 1;
+    if (at >= rows_.size()) rows_.resize(at + 1);
+    rows_[at][static_cast<std::size_t>(column) - 1] = std::move(text);
+}
+
+void DataPanel::reserveRows(int rows) {
+    if (rows > 0) rows_.reserve(static_cast<std::size_t>(rows));
+}
+
+bool DataPanel::GetCellText(int row, int column, std::string& text) const {
+    if (row <= 0 || column <= 0) return false;
+    text = cell(column, row);
+    return true;
+}
+
+bool DataPanel::SetCellText(int row, int column, std::string_view text) {
+    if (row <= 0 || column <= 0) return false;
+    setCell(column, row, std::string(text));
+    return true;
+}
+
+std::string DataPanel::indexText(int row) const {
+    if (row < 1 || row >= gridRows_) return {};
+    const int n = row - 1;
+    switch (indexForm_) {
+        case IndexForm::Number: return std::to_string(n);
+        case IndexForm::Pair: return std::to_string(n / indexColumns_) + ',' + std::to_string(n % indexColumns_);
+        case IndexForm::Triple:
+            return std::to_string(n / indexLayers_ / indexColumns_) + ',' +
+                   std::to_string(n / indexLayers_ % indexColumns_) + ',' + std::to_string(n % indexLayers_);
+        case IndexForm::None: break;
+    }
+    return {};
+}
+
+int DataPanel::count(int box) const {
+    return base::TextInteger(Text(box));
+}
+
+double DataPanel::number(int box) const {
+    return base::TextValue(Text(box));
+}
+
+int DataPanel::dataRows() const {
+    std::vector<int> counts{count(isIrregular(kind_) ? 3 : 1)};
+    if (!isIrregular(kind_)) counts.push_back(count(2));
+    if (kind_ == DataKind::RegularVolume) counts.push_back(count(4));
+    std::int64_t rows = 1;
+    for (const int one : counts) {
+        if (one <= 0) return 0;
+        rows *= one;
+        if (rows > maximumRows)
+            throw base::Failure(base::FailureCode::SubscriptOutOfRange,
+                                "The data grid holds at most " + std::to_string(maximumRows) +
+                                    " rows; the data ask for more.");
+    }
+    return static_cast<int>(rows);
+}
+
+void DataPanel::layOut() {
+    gridRows_ = dataRows() + 1;
+    gridColumns_ = columns + 1;
+    indexForm_ = IndexForm::None;
+    if (gridRows_ == 1) return;
+    if (isIrregular(kind_)) {
+        indexForm_ = IndexForm::Number;
+    } else if (isVolume(kind_)) {
+        indexForm_ = IndexForm::Triple;
+        indexColumns_ = count(2);
+        indexLayers_ = count(4);
+    } else {
+        indexForm_ = IndexForm::Pair;
+        indexColumns_ = count(2);
+    }
+}
+
+bool DataPanel::CheckData(std::string& message) {
+    return checkCounts(message) && cleanCells(message);
+}
+
+bool DataPanel::checkCounts(std::string& message) {
+    std::string checked;
+    for (const CountRule& rule : countRules(kind_)) {
+        if (!base::CheckNumberText(Text(rule.box), checked)) {
+            message = illegalData;
+            return false;
+        }
+        if (base::TextValue(checked) < rule.least) {
+            message = rule.message;
+            return false;
+        }
+    }
+    for (const int box : cleanedBoxes(kind_)) {
+        if (!base::CleanNumberText(Text(box), checked)) {
+            message = illegalData;
+            return false;
+        }
+        setText(box, checked);
+    }
+    return true;
+}
+
+bool DataPanel::cleanCells(std::string& message) {
+    std::string cleaned;
+    for (int row = 1; row < gridRows_; ++row) {
+        for (int column = 1; column < gridColumns_; ++column) {
+            if (!base::CleanNumberText(cell(column, row), cleaned)) {
+                message = illegalData;
+                return false;
+            }
+            if (cleaned != cell(column, row)) setCell(column, row, cleaned);
+        }
+    }
+    return true;
+}
+
+void DataPanel::clearCells() {
+    rows_ = {};
+}
+
+std::size_t DataPanel::bytes() const {
+    const std::size_t inPlace = std::string().capacity();
+    std::size_t sum = rows_.capacity() * sizeof(Row);
+    for (const Row& row : rows_)
+        for (const std::string& text : row)
+            if (text.capacity() > inPlace) sum += text.capacity() + 1;
+    return sum;
+}
+
+}  // namespace tessaplot::data
