@@ -48,6 +48,10 @@ void frmF1::load(const std::filesystem::path& path) {
         return;
     }
     core::RebuildScene(state_);
+    openDocument(path);
+}
+
+void frmF1::openDocument(const std::filesystem::path& path) {
     switch (core::LoadDocument(state_, path)) {
         case core::LoadResult::Loaded:
         case core::LoadResult::NoPath: break;
@@ -193,7 +197,7 @@ void frmF1::mnuFileOpen_Click() {
     state_.LastGraphId = 0;
     const auto chosen =
         state_.desktop.chooseFileName({platform::FileQuestion::Mode::Open, "Open File", "(*.tsp)|*.tsp"});
-    if (chosen) load(chosen->path);
+    if (chosen) openDocument(chosen->path);
 }
 
 void frmF1::mnuFileSave_Click() {

@@ -53,6 +53,7 @@ class frmF1 {
     void mnuFileSave_Click();
     void mnuFileExit_Click();
     void mnuViewFit_Click();
+    void openDocument(const std::filesystem::path& path);
     void newSpatialDocument(int sceneMode);
     void startSpatialDocument(int sceneMode);
     platform::Answer askToSaveChanges() const;

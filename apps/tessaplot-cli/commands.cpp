@@ -1,0 +1,103 @@
+#include "commands.h"
+
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+#include "base/failure.h"
+#include "core/app_state.h"
+#include "core/document.h"
+#include "core/refresh.h"
+#include "gl/offscreen_context.h"
+#include "gl/replay.h"
+#include "pictures/picture_file.h"
+#include "report.h"
+
+namespace tessaplot::cli {
+
+namespace {
+
+using base::Failure;
+using base::FailureCode;
+
+core::Document readKnownDocument(const std::filesystem::path& path) {
+    auto document = core::readDocument(core::readDocumentFile(path));
+    if (!document)
+        throw Failure(FailureCode::BadInput, "The file \"" + path.string() + "\" holds no known kind of document.");
+    return *std::move(document);
+}
+
+/// Opens the document as the window does.
+void open(core::AppState& state, const std::filesystem::path& path, int width, int height) {
+    state.TheView.SetScreen(width, height);
+    state.TheAxis.Show = true;
+    if (core::LoadDocument(state, path) != core::LoadResult::Loaded)
+        throw Failure(FailureCode::BadInput, "The file \"" + path.string() + "\" holds no known kind of document.");
+}
+
+void turn(core::AppState& state, const std::string& view) {
+    if (view == "iso") state.ShownGraphs.setAngles(0, -30, 45);
+    if (view == "front") state.ShownGraphs.setAngles(0, 0, 0);
+    if (view == "right") state.ShownGraphs.setAngles(0, 0, 90);
+    if (view == "top") state.ShownGraphs.setAngles(0, -90, 0);
+}
+
+void print(const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+}  // namespace
+
+void render(const RenderOptions& options) {
+    core::AppState state;
+    open(state, options.document, options.width, options.height);
+    turn(state, options.view);
+    state.QuickDraw = options.quick;
+    core::fitView(state);
+    const gl::OffscreenContext context;
+    gl::Replay replay;
+    replay.draw(core::recordDisplay(state), options.width, options.height);
+    pictures::writePicture(options.picture, replay.readPixels());
+}
+
+void trace(const TraceOptions& options) {
+    core::AppState state;
+    const RenderOptions usual;
+    open(state, options.document, usual.width, usual.height);
+    core::fitView(state);
+    if (options.graph != 0) {
+        const auto& graphs = state.compiled.graphs;
+        if (options.graph < 1 || options.graph > static_cast<int>(graphs.size()))
+            throw Failure(FailureCode::BadInput, "There is no shown graph " + std::to_string(options.graph) +
+                                                     ", the document shows " + std::to_string(graphs.size()) + ".");
+        print(gl::toText(*graphs[static_cast<std::size_t>(options.graph) - 1]));
+    } else if (options.frame) {
+        print(gl::toText(*state.compiled.frame));
+    } else if (options.legend) {
+        print(gl::toText(*state.compiled.legends));
+    } else {
+        print("glNewList 900 GL_COMPILE\n");
+        print(gl::toText(*state.compiled.list900));
+        print("glEndList\n");
+    }
+}
+
+void info(const std::filesystem::path& document) {
+    const std::string tag = readKnownDocument(document).tag;
+    core::AppState state;
+    const RenderOptions usual;
+    open(state, document, usual.width, usual.height);
+    report(std::cout, tag, state);
+}
+
+void convert(const std::filesystem::path& from, const std::filesystem::path& to) {
+    const core::Document document = readKnownDocument(from);
+    const data::Scaling scaling = document.scaling.value_or(data::Scaling{});
+    const data::GriddingChoice gridding = document.gridding.value_or(data::GriddingChoice{});
+    core::DocumentParts parts{document.SceneMode, document.panel, {}, document.axis, scaling, gridding};
+    for (const graphs::Cls9& graph : document.graphs)
+        if (!graphs::listLabel(graph, document.SceneMode).empty()) parts.graphs.push_back(&graph);
+    core::writeDocumentFile(to, core::documentText(parts));
+}
+
+}  // namespace tessaplot::cli

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace tessaplot::cli {
+
+struct RenderOptions {
+    std::filesystem::path document;
+    std::filesystem::path picture;
+    int width = 1000;
+    int height = 800;
+    std::string view;  ///< "iso", "front", "right", "top", or empty for the document's own.
+    bool quick = false;
+};
+
+struct TraceOptions {
+    std::filesystem::path document;
+    int graph = 0;  ///< 1-based number of the shown graph to tell alone, 0 for none.
+    bool frame = false;
+    bool legend = false;
+};
+
+/// Each command prints its result on standard output and throws base::Failure if it cannot be done.
+void render(const RenderOptions& options);
+void trace(const TraceOptions& options);
+void info(const std::filesystem::path& document);
+void convert(const std::filesystem::path& from, const std::filesystem::path& to);
+
+}  // namespace tessaplot::cli

@@ -1,0 +1,71 @@
+#include "sample_builder.h"
+
+#include <cmath>
+#include <memory>
+
+#include "base/number_text.h"
+#include "core/document.h"
+
+namespace tessaplot::samples {
+
+namespace {
+
+/// Data as a person would type them: a few digits.
+std::string typed(double value) {
+    constexpr double digits = 1e5;
+    const double rounded = std::round(value * digits) / digits;
+    return base::generalText(rounded == 0 ? 0.0 : rounded);
+}
+
+}  // namespace
+
+SampleBuilder::SampleBuilder(int sceneMode) {
+    state_.scene.SceneMode = sceneMode;
+    state_.TheAxis.SetDefault();
+}
+
+void SampleBuilder::regularSurface(data::DataKind kind, int rows, int columns,
+                                   const std::function<Row(double, double)>& node) {
+    state_.panel.selectKind(kind);
+    state_.panel.setText(1, std::to_string(rows));
+    state_.panel.setText(2, std::to_string(columns));
+    state_.panel.layOut();
+    int at = 0;
+    for (int i = 0; i < rows; ++i) {
+        for (int j = 0; j < columns; ++j) {
+            const Row row = node(i / (rows - 1.0), j / (columns - 1.0));
+            ++at;
+            state_.panel.setCell(1, at, typed(row.first));
+            state_.panel.setCell(2, at, typed(row.second));
+            state_.panel.setCell(3, at, typed(row.third));
+            state_.panel.setCell(4, at, typed(row.fourth));
+        }
+    }
+    lastU_ = rows - 1;
+    lastV_ = columns - 1;
+}
+
+graphs::Cls9& SampleBuilder::add(int graphType, const std::string& name) {
+    auto graph = std::make_shared<graphs::Cls9>();
+    graph->ID = ++state_.LastGraphId;
+    graph->GraphType = graphType;
+    graph->NameS = name;
+    graph->StepU = lastU_;
+    graph->StepV = lastV_;
+    graph->Material = 13;
+    state_.ShownGraphs.Graphs.push_back(graph);
+    return *graph;
+}
+
+void SampleBuilder::titles(const std::string& x, const std::string& y, const std::string& z) {
+    state_.TheAxis.TitleX = x;
+    state_.TheAxis.TitleY = y;
+    state_.TheAxis.TitleZ = z;
+}
+
+void SampleBuilder::write(const std::filesystem::path& path) const {
+    std::filesystem::remove(path);
+    core::writeDocumentFile(path, core::documentText(core::partsOf(state_, state_.ShownGraphs)));
+}
+
+}  // namespace tessaplot::samples

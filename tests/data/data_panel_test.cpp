@@ -1,0 +1,113 @@
+#include "data/data_panel.h"
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+
+namespace tessaplot::data {
+namespace {
+
+TEST(DataPanel, keepsTextsWhenKindOrShapeChanges) {
+    DataPanel panel;
+    panel.setText(1, "2");
+    panel.setText(2, "3");
+    panel.layOut();
+    EXPECT_EQ(panel.gridRows(), 7);
+    EXPECT_EQ(panel.indexText(1), "0,0");
+    EXPECT_EQ(panel.indexText(6), "1,2");
+    panel.setCell(3, 6, "last");
+    panel.setText(2, "1");
+    panel.layOut();
+    EXPECT_EQ(panel.gridRows(), 3);
+    panel.selectKind(DataKind::RegularVolume);
+    panel.setText(2, "3");
+    panel.setText(4, "2");
+    panel.layOut();
+    EXPECT_EQ(panel.gridRows(), 13);
+    EXPECT_EQ(panel.indexText(12), "1,2,1");
+    EXPECT_EQ(panel.cell(3, 6), "last");
+    panel.selectKind(DataKind::IrregularVolume);
+    panel.setText(3, "5");
+    panel.layOut();
+    EXPECT_EQ(panel.indexText(5), "4");
+    EXPECT_EQ(panel.indexText(6), "");
+}
+
+TEST(DataPanel, servesOnlyDataCellsAndBoundsTheStore) {
+    DataPanel panel;
+    std::string text = "untouched";
+    EXPECT_FALSE(panel.GetCellText(0, 1, text));
+    EXPECT_FALSE(panel.SetCellText(3, 0, "x"));
+    EXPECT_EQ(text, "untouched");
+    EXPECT_TRUE(panel.SetCellText(20000, 4, "x"));
+    EXPECT_TRUE(panel.GetCellText(20000, 4, text));
+    EXPECT_EQ(text, "x");
+    EXPECT_THROW(panel.SetCellText(20001, 1, "x"), base::Failure);
+    EXPECT_THROW(panel.cell(5, 1), base::Failure);
+    panel.setGridSize(65536, 5);
+    EXPECT_THROW(panel.setGridSize(65537, 5), base::Failure);
+    EXPECT_THROW(panel.setGridSize(5, 0), base::Failure);
+}
+
+TEST(DataPanel, refusesLayoutsBeyondTheStoreAndKeepsItsShape) {
+    DataPanel panel;
+    panel.setText(1, "200");
+    panel.setText(2, "101");
+    EXPECT_THROW(panel.layOut(), base::Failure);
+    EXPECT_EQ(panel.gridRows(), 101);
+    panel.setText(1, "-3");
+    panel.setText(2, "-4");
+    panel.layOut();
+    EXPECT_EQ(panel.gridRows(), 1) << "two negative counts are no data";
+}
+
+struct CheckCase {
+    DataKind kind;
+    std::vector<std::pair<int, const char*>> boxes;
+    const char* message;
+};
+
+TEST(DataPanel, validatesBoxesInOrderAndSaysWhichOneIsWrong) {
+    const std::vector<CheckCase> cases{
+        {DataKind::RegularSurface, {{1, "abc"}, {2, "0"}}, "Illegal data exist."},
+        {DataKind::RegularSurface, {{1, "+5"}, {2, "2"}}, "Illegal data exist."},
+        {DataKind::RegularSurface, {{1, "0.5"}, {2, "2"}}, "The number of Rows X must larger than 0."},
+        {DataKind::RegularSurface, {{1, "2"}, {2, "-1"}}, "The number of Rows Y must larger than 0."},
+        {DataKind::IrregularSurface, {{3, "2"}}, "The number of points must larger than 3."},
+        {DataKind::IrregularSurface, {{3, "3"}, {4, "1"}, {7, "0"}}, "The number of Rows Y must larger than 0."},
+        {DataKind::IrregularSurface, {{3, "3"}, {4, "1"}, {7, "1"}, {5, "x"}}, "Illegal data exist."},
+        {DataKind::RegularVolume, {{1, "1"}, {2, "1"}, {4, "0"}}, "The number of Rows Z must larger than 0."},
+        {DataKind::IrregularVolume, {{3, "9"}, {4, "1"}, {7, "1"}, {10, "0"}}, "The number of Rows Z must larger than 0."},
+        {DataKind::RegularSpherical, {{1, "abc"}}, ""},
+    };
+    for (const CheckCase& one : cases) {
+        DataPanel panel;
+        panel.selectKind(one.kind);
+        for (const auto& [box, text] : one.boxes) panel.setText(box, text);
+        std::string message;
+        EXPECT_EQ(panel.CheckData(message), *one.message == '\0') << one.message;
+        EXPECT_EQ(message, one.message);
+    }
+}
+
+TEST(DataPanel, validationCleansCellsInRowOrder) {
+    DataPanel panel;
+    panel.setText(1, "2");
+    panel.setText(2, "1");
+    panel.layOut();
+    panel.setCell(1, 1, "1,5");
+    panel.setCell(2, 1, "12a");
+    panel.setCell(3, 1, " 4 2 ");
+    std::string message;
+    EXPECT_TRUE(panel.CheckData(message));
+    EXPECT_EQ(panel.cell(1, 1), "1.5");
+    EXPECT_EQ(panel.cell(2, 1), "12");
+    EXPECT_EQ(panel.cell(3, 1), "42");
+    EXPECT_EQ(panel.cell(4, 2), "0");
+    panel.setCell(1, 2, "a1");
+    EXPECT_FALSE(panel.CheckData(message));
+    EXPECT_EQ(message, "Illegal data exist.");
+}
+
+}  // namespace
+}  // namespace tessaplot::data
