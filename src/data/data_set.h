@@ -44,6 +44,10 @@ class ClsData {
     void GetData(const DataPanel& panel, Scaling& scaling, const GriddingChoice& gridding,
                  const platform::Desktop& desktop);
 
+    /// Fills the set from the panel's irregular data and grids them, without scaling: the lattice runs over the limits as
+    /// they were typed. Throws Failure as `GetData` does.
+    void GetLattice(const DataPanel& panel, const GriddingChoice& gridding, const platform::Desktop& desktop);
+
     /// Recomputes the extents from the grid arrays.
     void GetBox();
 

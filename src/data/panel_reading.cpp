@@ -241,6 +241,12 @@ void readCounts(ClsData& data, const DataPanel& panel) {
     requireNodesWithinLimit(data.StepsX, data.StepsY, data.StepsZ);
 }
 
+void startFill(ClsData& data, const DataPanel& panel) {
+    data.DataDim = isVolume(panel.kind()) ? 2 : 1;
+    data.DataType = isIrregular(panel.kind()) ? 2 : 1;
+    readCounts(data, panel);
+}
+
 void readScattered(ClsData& data, const DataPanel& panel) {
     const DataKind kind = panel.kind();
     readTypedLimits(data, panel);
@@ -262,9 +268,7 @@ void ClsData::GetData(const DataPanel& panel, Scaling& scaling, const GriddingCh
                       const platform::Desktop& desktop) {
     const DataKind kind = panel.kind();
     ClsData fresh;
-    fresh.DataDim = isVolume(kind) ? 2 : 1;
-    fresh.DataType = isIrregular(kind) ? 2 : 1;
-    readCounts(fresh, panel);
+    startFill(fresh, panel);
     if (isIrregular(kind)) {
         readScattered(fresh, panel);
         fresh.Grid(kind, gridding, desktop);
@@ -276,6 +280,18 @@ void ClsData::GetData(const DataPanel& panel, Scaling& scaling, const GriddingCh
     Scaling freshScaling = scaling;
     fresh.Normalize(freshScaling);
     scaling = freshScaling;
+    *this = std::move(fresh);
+}
+
+void ClsData::GetLattice(const DataPanel& panel, const GriddingChoice& gridding, const platform::Desktop& desktop) {
+    ClsData fresh;
+    startFill(fresh, panel);
+    readScattered(fresh, panel);
+    if (panel.kind() == DataKind::IrregularCylindrical) {
+        fresh.MinZ = panel.number(8);
+        fresh.MaxZ = panel.number(9);
+    }
+    fresh.Grid(panel.kind(), gridding, desktop);
     *this = std::move(fresh);
 }
 

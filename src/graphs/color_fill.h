@@ -14,15 +14,24 @@ struct Rgb {
     double b = 0;
 };
 
+/// The bytes of a packed colour over 255, got in floating point: a negative colour gives negative channels.
 Rgb ColorToRGB(base::PackedColor color);
 
 /// Loads the stops of a named ramp ("RAINBOW", "EARTH", "FIERY", "MARINE", "GREY", also with a leading "@", in any
 /// case) into the graph; any other name does nothing.
 void ApplyNamedMap(Cls9& graph, std::string_view name);
 
+/// As `ApplyNamedMap` for the graph's own `ColorName`, but "@" names count as custom: how drawing begins.
+void applyPlainMap(Cls9& graph);
+
 /// The colour of `value` on the graph's ramp from `lower` over `range`. A value outside the ramp keeps `color` as it
 /// came, divided by 255. An empty colour name becomes "Rainbow".
+/// Throws DivisionByZero for a value between two stops at the same position, SubscriptOutOfRange for a `ColorNum` that
+/// is not 1 to 31.
 void ValueToRGB(Cls9& graph, double value, double lower, double range, Rgb& color);
+
+/// `ValueToRGB` for a graph whose named ramp is loaded: what loops over many values call.
+void rampColor(const Cls9& graph, double value, double lower, double range, Rgb& color);
 
 /// Runs over `span` from `second` at `lower` to `first` at the upper end, without a clamp.
 Rgb gradientColor(double value, double lower, double span, const Rgb& first, const Rgb& second);

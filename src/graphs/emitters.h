@@ -14,14 +14,17 @@ struct Node {
     double z = 0;
 };
 
+/// Throws SubscriptOutOfRange unless the data set's surface grid holds nodes (0, 0) to (lastI, lastJ).
+void requireGrid(const data::ClsData& data, int lastI, int lastJ);
+
 /// The nodes of one drawing, i from 0 to StepU, j from 0 to StepV.
 class NodeTable {
  public:
-    NodeTable(int lastI, int lastJ);
+    /// Takes every node from the grid of the data set. Throws SubscriptOutOfRange, before anything is allocated, if
+    /// that is smaller.
+    NodeTable(const data::ClsData& data, int lastI, int lastJ);
     Node& operator()(int i, int j) { return nodes_[index(i, j)]; }
     const Node& operator()(int i, int j) const { return nodes_[index(i, j)]; }
-    /// Takes every node from the grid of the data set. Throws SubscriptOutOfRange if that is smaller.
-    void fillFrom(const data::ClsData& data);
 
  private:
     std::size_t index(int i, int j) const {
@@ -33,11 +36,15 @@ class NodeTable {
 };
 
 void emitPoint(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
+/// A marker at each node.
 void emitVertexModel(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);
+/// A line from each node to its neighbours along both axes, each cell for itself.
 void emitGridModel(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);
+/// The polyline through row 0 of the graph's own table, with a ring at each node.
 void emitTable(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
 
-/// A cone from the first point to the second, in scene order (data Y, Z, X), in the graph's `Vect4DColor`.
+/// A cone from the first point to the second, in the graph's `Vect4DColor`. A cone across scene z is not turned: it
+/// points along z.
 void DrawArrow(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const Node& from, const Node& to);
 
 }  // namespace tessaplot::graphs

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "base/checked_array.h"
 #include "base/color.h"
@@ -52,13 +53,13 @@ struct SliceSet {
         int SecondEnd = 0;
     };
 
-    /// Index 0 to 50; throws SubscriptOutOfRange beyond.
+    /// Index 0 to 50; throws SubscriptOutOfRange beyond. References stay valid for the life of the set.
     Slice& operator[](int i);
     const Slice& operator[](int i) const;
 
  private:
-    static void check(int i);
-    std::vector<Slice> slices_;  ///< Grown on first write, so that a graph without slices stays small.
+    std::vector<Slice>
+        slices_;  ///< All or none: made whole on first write, so that a graph without slices stays small.
 };
 
 /// One plot of any kind: a flat record of presentation properties. It owns no data and draws from the one data set.
@@ -171,17 +172,20 @@ class Cls9 {
     /// count above 31 throws SubscriptOutOfRange part way.
     void TabEqualTo(const Cls9& other);
 
-    /// Fills the range members from the data set and returns the box in scene axes.
+    /// Fills the range members from the data set and returns the box in scene axes. Arrays that are not allocated hold
+    /// nothing, so that the box of an empty data set is inverted. Throws SubscriptOutOfRange for arrays smaller than
+    /// the graph's steps, DivisionByZero for a point while there are no scales.
     scene::Cls1 GetBox(const GraphContext& context);
-    /// Emits the graph. Throws SubscriptOutOfRange for a data set smaller than the graph's steps.
+    /// Emits the graph. Steps of 0 become 1 and a named ramp is loaded; both stay. The state set last is left to the
+    /// next graph. Throws SubscriptOutOfRange for a data set smaller than the graph's steps.
     void Draw(gl::DisplayList& list, const GraphContext& context);
 
  private:
     std::unordered_map<int, scene::Cls2> vertexTable_;
 };
 
-/// The fixed label of a kind in the graph list, with its trailing blanks; empty for a kind that has no entry. A point is
-/// labelled with its position by the axes of the mode.
+/// The fixed label of a kind in the graph list, with its trailing blanks; empty for a kind that has no entry. A point
+/// is labelled with its position by the axes of the mode.
 std::string listLabel(const Cls9& graph, int sceneMode);
 
 }  // namespace tessaplot::graphs

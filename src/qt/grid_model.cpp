@@ -1,0 +1,68 @@
+#include "qt/grid_model.h"
+
+#include <string>
+#include <utility>
+
+namespace tessaplot::qt {
+
+GridModel::GridModel(data::DataPanel& panel, Guard guard, QObject* parent)
+    : QAbstractTableModel(parent), panel_(panel), guard_(std::move(guard)) {
+    sync();
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : columns_;
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
+    std::string text;
+    if (!panel_.GetCellText(index.row() + 1, index.column() + 1, text)) return {};
+    return QString::fromStdString(text);
+}
+
+bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole) return false;
+    bool stored = false;
+    guard_([&] { stored = panel_.SetCellText(index.row() + 1, index.column() + 1, value.toString().toStdString()); });
+    if (stored) emit dataChanged(index, index);
+    return stored;
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role == Qt::TextAlignmentRole) return Qt::AlignCenter;
+    if (role != Qt::DisplayRole) return {};
+    if (orientation == Qt::Vertical) return QString::fromStdString(panel_.indexText(section + 1));
+    const auto headers = data::headersOf(panel_.kind());
+    if (section < 0 || section >= static_cast<int>(headers.size())) return {};
+    const std::string_view header = headers[static_cast<std::size_t>(section)];
+    return QString::fromUtf8(header.data(), static_cast<qsizetype>(header.size()));
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags plain = QAbstractTableModel::flags(index);
+    return index.isValid() && index.column() < data::DataPanel::columns ? plain | Qt::ItemIsEditable : plain;
+}
+
+void GridModel::sync() {
+    const int rows = panel_.gridRows() - 1;
+    const int columns = panel_.gridColumns() - 1;
+    if (rows != rows_ || columns != columns_) {
+        beginResetModel();
+        rows_ = rows;
+        columns_ = columns;
+        endResetModel();
+        return;
+    }
+    if (rows == 0 || columns == 0) return;
+    emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
+    emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
+    emit headerDataChanged(Qt::Vertical, 0, rows - 1);
+}
+
+}  // namespace tessaplot::qt

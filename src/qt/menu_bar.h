@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QAction>
+#include <functional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "ui/menu_table.h"
+
+class QMenuBar;
+
+namespace tessaplot::qt {
+
+/// Fills the menu bar from its table. Returns the actions of the commands; each bears its command's name as its object
+/// name and hands it to `run` when it is chosen.
+std::vector<QAction*> fillMenuBar(QMenuBar& bar, std::span<const ui::MenuEntry> entries,
+                                  const std::function<void(std::string_view)>& run);
+
+}  // namespace tessaplot::qt
