@@ -9,6 +9,10 @@ add_library(tessaplot_options INTERFACE)
 target_compile_features(tessaplot_options INTERFACE cxx_std_20)
 # Results must not depend on fused or reordered arithmetic.
 target_compile_options(tessaplot_options INTERFACE -ffp-contract=off -Wall -Wextra -Wconversion -Wshadow)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # Warns of memory overlaps in std::string that cannot be (GCC bug 105651).
+  target_compile_options(tessaplot_options INTERFACE -Wno-restrict)
+endif()
 if(TESSAPLOT_WERROR)
   target_compile_options(tessaplot_options INTERFACE -Werror)
 endif()

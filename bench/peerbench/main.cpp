@@ -1,0 +1,65 @@
+#include <cstdio>
+#include <exception>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "peerbench/gridding.h"
+#include "peerbench/work.h"
+
+// Runs one workload beside other programs that do the same: prints `ready` when its input is made (`skip` for a
+// workload it does not have), then answers each line `run` with the milliseconds of one run, a tab and a check of the
+// result.
+
+namespace tessaplot::bench {
+
+#ifdef TESSAPLOT_PEERBENCH_W8
+std::unique_ptr<Work> makeW8();
+#endif
+
+namespace {
+
+std::unique_ptr<Work> makeWork(const std::string& name) {
+    const std::map<std::string, std::unique_ptr<Work> (*)()> makers = {
+        {"W1", makeW1}, {"W2", makeW2}, {"W3", makeW3}, {"W4", makeW4},
+#ifdef TESSAPLOT_PEERBENCH_W8
+        {"W8", makeW8},
+#endif
+    };
+    const auto found = makers.find(name);
+    return found == makers.end() ? nullptr : found->second();
+}
+
+int serve(const std::string& name) {
+    const std::unique_ptr<Work> work = makeWork(name);
+    if (!work) {
+        std::cout << "skip" << std::endl;
+        return 0;
+    }
+    std::cout << "ready" << std::endl;
+    for (std::string line; std::getline(std::cin, line);) {
+        if (line != "run") continue;
+        std::string check;
+        const double milliseconds = work->run(check);
+        std::cout << std::to_string(milliseconds) << '\t' << check << std::endl;
+    }
+    return 0;
+}
+
+}  // namespace
+
+}  // namespace tessaplot::bench
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fputs("usage: tessaplot-peerbench W1\n", stderr);
+        return 2;
+    }
+    try {
+        return tessaplot::bench::serve(argv[1]);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
+}
