@@ -50,6 +50,7 @@ void report(std::ostream& out, std::string_view tag, const core::AppState& state
     out << "kind: " << data::captionOf(state.panel.kind()) << '\n';
     reportCounts(out, state);
     reportExtents(out, state);
+    if (state.TheData.fit) out << "fit: " << data::fitReport(*state.TheData.fit) << '\n';
     out << "graphs: " << state.AllGraphs.Graphs.size() << '\n';
     int number = 0;
     for (const core::GraphPtr& graph : state.AllGraphs.Graphs) {

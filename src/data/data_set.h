@@ -1,13 +1,14 @@
 #pragma once
 
-#include <array>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "base/checked_array.h"
 #include "data/data_kind.h"
 #include "data/data_panel.h"
 #include "data/scaling.h"
+#include "numerics/poly_fit.h"
 #include "platform/desktop.h"
 
 namespace tessaplot::data {
@@ -39,6 +40,9 @@ class ClsData {
     Array Irreg3DX{"Irreg3DX"}, Irreg3DY{"Irreg3DY"}, Irreg3DZ{"Irreg3DZ"}, Irreg3DC{"Irreg3DC"};
     Array Irreg4DX{"Irreg4DX"}, Irreg4DY{"Irreg4DY"}, Irreg4DZ{"Irreg4DZ"}, Irreg4DV{"Irreg4DV"};
 
+    /// How well the quadratic of gridding methods 5 and 103 meets the points; empty after other methods.
+    std::optional<numerics::FitStatistics> fit;
+
     /// Fills the set from the panel, grids irregular kinds and scales everything into the scene. A failure leaves the
     /// set and `scaling` as they were. Throws Failure for counts beyond limits, numbers out of range, a zero range.
     void GetData(const DataPanel& panel, Scaling& scaling, const GriddingChoice& gridding,
@@ -60,5 +64,8 @@ class ClsData {
 
     std::size_t bytes() const;
 };
+
+/// The statistics of a fit in one line.
+std::string fitReport(const numerics::FitStatistics& fit);
 
 }  // namespace tessaplot::data

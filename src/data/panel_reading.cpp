@@ -281,6 +281,7 @@ void ClsData::GetData(const DataPanel& panel, Scaling& scaling, const GriddingCh
     fresh.Normalize(freshScaling);
     scaling = freshScaling;
     *this = std::move(fresh);
+    if (fit) desktop.status(fitReport(*fit));
 }
 
 void ClsData::GetLattice(const DataPanel& panel, const GriddingChoice& gridding, const platform::Desktop& desktop) {

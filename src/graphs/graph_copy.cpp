@@ -29,7 +29,7 @@ void takeBasics(Cls9& graph, const Cls9::Basics& basics) {
     graph.ContourLevel = basics.lngConLevel;
 }
 
-/// What both copies take: kind, steps, fill, overlays, texture, transparency and iso-surface.
+/// Kind, steps, fill and overlays, which both copies take.
 void copyCommon(Cls9& to, const Cls9& from) {
     to.NameS = from.NameS;
     to.GraphType = from.GraphType;

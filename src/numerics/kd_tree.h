@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <numeric>
 #include <span>
 #include <vector>
 
@@ -33,7 +32,7 @@ class NearestList {
     std::span<const Neighbour> found() const { return {found_.data(), wanted_}; }
 
     void offer(const Neighbour& candidate) {
-        if (!candidate.precedes(worst())) return;
+        if (candidate.square > worst().square || !candidate.precedes(worst())) return;
         std::size_t at = wanted_ - 1;
         for (; at > 0 && candidate.precedes(found_[at - 1]); --at)
             found_[at] = found_[at - 1];
@@ -54,17 +53,19 @@ class KdTree {
  public:
     using Position = std::array<double, dimensions>;
 
-    /// Takes columns of finite coordinates, all of one length, which must stay while the tree is built.
+    /// Takes columns of finite coordinates, all of one length.
     explicit KdTree(const std::array<std::span<const double>, dimensions>& columns) {
-        order_.resize(columns[0].size());
-        std::iota(order_.begin(), order_.end(), 0U);
-        if (order_.empty()) return;
-        build(columns, 0, order_.size());
-        for (std::size_t axis = 0; axis < dimensions; ++axis) {
-            coordinates_[axis].reserve(order_.size());
-            for (const std::uint32_t index : order_)
-                coordinates_[axis].push_back(columns[axis][index]);
+        const std::size_t count = columns[0].size();
+        if (count == 0) return;
+        std::vector<Entry> entries(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            for (std::size_t axis = 0; axis < dimensions; ++axis)
+                entries[i].position[axis] = columns[axis][i];
+            entries[i].index = static_cast<std::uint32_t>(i);
         }
+        nodes_.reserve(4 * count / leafPoints + 1);
+        build(entries, 0, count);
+        store(entries);
     }
 
     /// Adds to `nearest` the points nearest to `position`. `term(axis, difference)` is the squared distance along an
@@ -75,47 +76,61 @@ class KdTree {
     }
 
  private:
-    static constexpr std::size_t leafPoints = 8;
+    static constexpr std::size_t leafPoints = 16;
+
+    struct Entry {
+        Position position;
+        std::uint32_t index = 0;
+    };
 
     struct Node {
         Position low, high;
-        std::uint32_t begin = 0, end = 0;  ///< Its points, as positions in `order_`.
+        std::uint32_t begin = 0, end = 0;  ///< Its points, as positions in `indices_`.
         std::uint32_t earliest = 0;        ///< The smallest index among its points.
         std::uint32_t second = 0;          ///< Its second child; the first follows the node. 0 in a leaf.
     };
 
-    std::size_t build(const std::array<std::span<const double>, dimensions>& columns, std::size_t begin,
-                      std::size_t end) {
+    std::size_t build(std::span<Entry> entries, std::size_t begin, std::size_t end) {
         const std::size_t at = nodes_.size();
-        nodes_.push_back(boundedNode(columns, begin, end));
+        nodes_.push_back(boundedNode(entries, begin, end));
         if (end - begin <= leafPoints) return at;
-        const std::span<const double> column = columns[widestAxis(nodes_[at])];
+        const std::size_t axis = widestAxis(nodes_[at]);
         const std::size_t middle = begin + (end - begin) / 2;
-        const auto first = order_.begin();
-        std::nth_element(first + static_cast<std::ptrdiff_t>(begin), first + static_cast<std::ptrdiff_t>(middle),
-                         first + static_cast<std::ptrdiff_t>(end),
-                         [column](std::uint32_t a, std::uint32_t b) { return column[a] < column[b]; });
-        build(columns, begin, middle);
-        const std::size_t second = build(columns, middle, end);
+        Entry* const first = entries.data();
+        std::nth_element(first + begin, first + middle, first + end,
+                         [axis](const Entry& a, const Entry& b) { return a.position[axis] < b.position[axis]; });
+        build(entries, begin, middle);
+        const std::size_t second = build(entries, middle, end);
         nodes_[at].second = static_cast<std::uint32_t>(second);
         return at;
     }
 
-    Node boundedNode(const std::array<std::span<const double>, dimensions>& columns, std::size_t begin,
-                     std::size_t end) const {
+    static Node boundedNode(std::span<const Entry> entries, std::size_t begin, std::size_t end) {
         Node node;
-        node.low.fill(std::numeric_limits<double>::infinity());
-        node.high.fill(-std::numeric_limits<double>::infinity());
+        node.low = node.high = entries[begin].position;
         node.begin = static_cast<std::uint32_t>(begin);
         node.end = static_cast<std::uint32_t>(end);
-        node.earliest = *std::min_element(order_.begin() + static_cast<std::ptrdiff_t>(begin),
-                                          order_.begin() + static_cast<std::ptrdiff_t>(end));
-        for (std::size_t axis = 0; axis < dimensions; ++axis)
-            for (std::size_t i = begin; i < end; ++i) {
-                node.low[axis] = std::min(node.low[axis], columns[axis][order_[i]]);
-                node.high[axis] = std::max(node.high[axis], columns[axis][order_[i]]);
+        node.earliest = entries[begin].index;
+        for (const Entry& entry : entries.subspan(begin, end - begin)) {
+            node.earliest = std::min(node.earliest, entry.index);
+            for (std::size_t axis = 0; axis < dimensions; ++axis) {
+                node.low[axis] = std::min(node.low[axis], entry.position[axis]);
+                node.high[axis] = std::max(node.high[axis], entry.position[axis]);
             }
+        }
         return node;
+    }
+
+    /// Keeps the entries as columns, with room for a whole leaf behind the last.
+    void store(std::span<const Entry> entries) {
+        for (const Entry& entry : entries)
+            indices_.push_back(entry.index);
+        for (std::size_t axis = 0; axis < dimensions; ++axis) {
+            coordinates_[axis].reserve(entries.size() + leafPoints);
+            for (const Entry& entry : entries)
+                coordinates_[axis].push_back(entry.position[axis]);
+            coordinates_[axis].resize(entries.size() + leafPoints);
+        }
     }
 
     static std::size_t widestAxis(const Node& node) {
@@ -129,7 +144,8 @@ class KdTree {
     Neighbour nearestInBox(const Node& node, const Position& position, const Term& term) const {
         double square = 0;
         for (std::size_t axis = 0; axis < dimensions; ++axis) {
-            const double gap = std::max({node.low[axis] - position[axis], position[axis] - node.high[axis], 0.0});
+            const double gap =
+                std::max(0.0, std::max(node.low[axis] - position[axis], position[axis] - node.high[axis]));
             square += term(axis, gap);
         }
         return {square, node.earliest};
@@ -142,28 +158,33 @@ class KdTree {
             scan(node, position, term, nearest);
             return;
         }
-        std::array<std::size_t, 2> children = {at + 1, node.second};
-        std::array<Neighbour, 2> bounds = {nearestInBox(nodes_[children[0]], position, term),
-                                           nearestInBox(nodes_[children[1]], position, term)};
-        if (bounds[1].precedes(bounds[0])) {
-            std::swap(children[0], children[1]);
-            std::swap(bounds[0], bounds[1]);
+        std::size_t near = at + 1;
+        std::size_t far = node.second;
+        Neighbour nearBound = nearestInBox(nodes_[near], position, term);
+        Neighbour farBound = nearestInBox(nodes_[far], position, term);
+        if (farBound.precedes(nearBound)) {
+            std::swap(near, far);
+            std::swap(nearBound, farBound);
         }
-        for (std::size_t child = 0; child < children.size(); ++child)
-            if (bounds[child].precedes(nearest.worst())) visit(children[child], position, term, nearest);
+        if (nearBound.precedes(nearest.worst())) visit(near, position, term, nearest);
+        if (farBound.precedes(nearest.worst())) visit(far, position, term, nearest);
     }
 
     template <class Term>
     void scan(const Node& node, const Position& position, const Term& term, NearestList& nearest) const {
-        for (std::size_t i = node.begin; i < node.end; ++i) {
-            double square = 0;
-            for (std::size_t axis = 0; axis < dimensions; ++axis)
-                square += term(axis, coordinates_[axis][i] - position[axis]);
-            nearest.offer({square, order_[i]});
+        std::array<double, leafPoints> squares;
+        for (std::size_t axis = 0; axis < dimensions; ++axis) {
+            const double* column = coordinates_[axis].data() + node.begin;
+            for (std::size_t i = 0; i < leafPoints; ++i) {
+                const double square = term(axis, column[i] - position[axis]);
+                squares[i] = axis == 0 ? square : squares[i] + square;
+            }
         }
+        for (std::size_t i = node.begin; i < node.end; ++i)
+            nearest.offer({squares[i - node.begin], indices_[i]});
     }
 
-    std::vector<std::uint32_t> order_;                         ///< Indices of the points, leaf after leaf.
+    std::vector<std::uint32_t> indices_;                       ///< Of the points, leaf after leaf.
     std::array<std::vector<double>, dimensions> coordinates_;  ///< In that order.
     std::vector<Node> nodes_;                                  ///< The root first.
 };

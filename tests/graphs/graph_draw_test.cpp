@@ -1,0 +1,253 @@
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <random>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "graphs/emitters.h"
+#include "small_scene.h"
+
+namespace tessaplot::graphs {
+namespace {
+
+/// What every graph with material 0 begins with.
+const std::string preparation =
+    "glEnable GL_COLOR_MATERIAL\n"
+    "glColorMaterial GL_FRONT_AND_BACK GL_DIFFUSE\n"
+    "glMaterialfv GL_FRONT_AND_BACK GL_DIFFUSE 0 0 0 0\n"
+    "glMaterialfv GL_FRONT_AND_BACK GL_SPECULAR 0 0 0 0\n"
+    "glMaterialfv GL_FRONT_AND_BACK GL_SHININESS 0\n"
+    "glMaterialfv GL_FRONT_AND_BACK GL_EMISSION 0 0 0 0\n"
+    "glMaterialfv GL_FRONT_AND_BACK GL_AMBIENT 0 0 0 0\n";
+
+std::string sphereText(const std::string& color, const std::string& position, const std::string& radius) {
+    return "glPushMatrix\nglColor3f " + color + "\nglTranslatef " + position + "\ngluNewQuadric\ngluSphere " + radius +
+           " 8 8\ngluDeleteQuadric\nglPopMatrix\n";
+}
+
+Cls9 pointGraph() {
+    Cls9 point = graphOf(graph_type::point, 1, 1);
+    point.PointX = 8;
+    point.PointY = 16;
+    point.PointZ = 6;
+    point.PointColor = 255;
+    point.PointSize = 2;
+    return point;
+}
+
+TEST(GraphDraw, preparesMaterialAndStepsForEveryKind) {
+    SmallScene scene;
+    scene.fillSurface(3, 3);
+    Cls9 nodes = graphOf(graph_type::nodesOnly, 0, 2);
+    EXPECT_EQ(scene.drawn(nodes), preparation);
+    EXPECT_EQ(nodes.StepU, 1);
+    EXPECT_EQ(nodes.StepV, 2);
+
+    Cls9 neon = graphOf(99, 0, 0);
+    neon.Material = 5;
+    neon.ColorName = "marine";
+    const std::string text = scene.drawn(neon);
+    EXPECT_NE(text.find("glColorMaterial GL_FRONT_AND_BACK GL_EMISSION\n"), std::string::npos);
+    EXPECT_NE(text.find("GL_EMISSION 0.0188407 0.940276 1 0\n"), std::string::npos);
+    EXPECT_EQ(neon.ColorNum, 3);
+    EXPECT_EQ(neon.ColorName, "marine");
+
+    Cls9 custom = graphOf(99, 1, 1);
+    custom.ColorName = "@grey";
+    scene.drawn(custom);
+    EXPECT_EQ(custom.ColorNum, 6) << "here a name with @ is a custom ramp";
+}
+
+TEST(GraphDraw, surfacesTakeBackTheRoomForOverlays) {
+    SmallScene scene;
+    scene.fillSurface(3, 3);
+    for (const auto& [type, lowest] : {std::pair{6, 0.0}, {14, -3.0}}) {
+        Cls9 graph = graphOf(type, 2, 2);
+        graph.ShowContour = true;
+        scene.drawn(graph);
+        EXPECT_EQ(graph.MinZ, lowest) << type;
+    }
+}
+
+TEST(GraphDraw, failsForADataSetSmallerThanItsSteps) {
+    SmallScene scene;
+    for (const int type : {13, 17, 18, 19}) {
+        Cls9 graph = graphOf(type, 1000000, 1000000);
+        EXPECT_THROW(scene.drawn(graph), base::Failure) << type;
+    }
+    scene.fillSurface(3, 3);
+    Cls9 tooMany = graphOf(graph_type::gridModel, 3, 4);
+    EXPECT_THROW(scene.drawn(tooMany), base::Failure);
+    Cls9 negative = graphOf(graph_type::point, -1, 1);
+    EXPECT_THROW(scene.drawn(negative), base::Failure);
+}
+
+TEST(PointGraph, isADiscInAFlatSceneAndASphereElsewhere) {
+    SmallScene scene;
+    Cls9 point = pointGraph();
+    EXPECT_EQ(scene.drawn(point), preparation + sphereText("1 0 0", "2 2 3", "0.1"));
+
+    scene.scene = {scene::mode2D, 1, 5, 2};
+    const std::string flat = scene.drawn(point);
+    EXPECT_EQ(flat.find(preparation +
+                        "glDisable GL_LIGHTING\nglEnable GL_LINE_SMOOTH\nglEnable GL_BLEND\n"
+                        "glBlendFunc GL_SRC_ALPHA GL_ONE_MINUS_SRC_ALPHA\nglHint GL_LINE_SMOOTH_HINT GL_NICEST\n"
+                        "glPushMatrix\nglColor3f 1 0 0\nglBegin GL_TRIANGLES\nglVertex3d 6 0.5 -5\n"),
+              0U)
+        << flat;
+    EXPECT_TRUE(
+        flat.ends_with("glEnd\nglPopMatrix\nglEnable GL_LIGHTING\nglDisable GL_LINE_SMOOTH\nglDisable GL_BLEND\n"));
+}
+
+TEST(PointGraph, unrollsAnglesForTheIrregularKindsOnly) {
+    SmallScene scene;
+    scene.scaling.ScaleX = scene.scaling.ScaleY = scene.scaling.ScaleZ = 1;
+    Cls9 point = pointGraph();
+    point.PointX = 30;
+    point.PointY = 60;
+    point.PointZ = 4;
+    const double a = 30 * 3.1416 / 180;
+    const double b = 60 * 3.1416 / 180;
+    const auto expectAt = [&](data::DataKind kind, double x, double y, double z) {
+        scene.kind = kind;
+        gl::DisplayList expected;
+        expected.glTranslatef(static_cast<float>(x), static_cast<float>(y), static_cast<float>(z));
+        EXPECT_NE(scene.drawn(point).find(gl::toText(expected)), std::string::npos);
+    };
+    using data::DataKind;
+    for (const DataKind kind : {DataKind::RegularCylindrical, DataKind::RegularSpherical, DataKind::IrregularVolume})
+        expectAt(kind, 30, 60, 4);
+    expectAt(DataKind::IrregularCylindrical, std::sin(a) * 60, std::cos(a) * 60, 4);
+    expectAt(DataKind::IrregularSpherical, std::cos(b) * 4 * std::sin(a), std::cos(b) * 4 * std::cos(a),
+             std::sin(b) * 4);
+}
+
+TEST(VertexModel, marksEachNodeRowByRow) {
+    SmallScene scene;
+    scene.fillSurface(2, 2);
+    scene.scene = {scene::mode4D, 1, 2, 3};
+    Cls9 graph = graphOf(graph_type::vertexModel, 1, 1);
+    graph.VertSize = 3;
+    graph.VertColor = base::packColor(0, 255, 0);
+    const auto sphere = [](const char* position) { return sphereText("0 1 0", position, "0.15"); };
+    EXPECT_EQ(scene.drawn(graph),
+              preparation + sphere("-1 -2 -3") + sphere("9 -1 -3") + sphere("-1 98 -2") + sphere("9 99 -2"));
+}
+
+TEST(GridModel, drawsEachCellForItselfThenTheLastEdges) {
+    SmallScene scene;
+    scene.fillSurface(2, 2);
+    scene.scene = {scene::mode3D, 1, 2, 3};
+    Cls9 graph = graphOf(graph_type::gridModel, 1, 1);
+    graph.GridWidth = 2;
+    graph.GridColor = base::packColor(0, 0, 51);
+    const std::string begin = "glBegin GL_LINES\nglColor3d 0 0 0.2\n";
+    const std::string node00 = "glVertex3d -1 -2 -3\n";
+    const std::string node01 = "glVertex3d 9 -1 -3\n";
+    const std::string node10 = "glVertex3d -1 98 -2\n";
+    const std::string node11 = "glVertex3d 9 99 -2\n";
+    EXPECT_EQ(scene.drawn(graph), preparation + "glLineWidth 2\n" + begin + node00 + node01 + node00 + node10 +
+                                      "glEnd\n" + begin + node10 + node11 + "glEnd\n" + begin + node01 + node11 +
+                                      "glEnd\n");
+}
+
+TEST(GridModel, holdsEveryEdgeOfTheGridOnce) {
+    SmallScene scene;
+    scene.fillSurface(9, 9);
+    Cls9 graph = graphOf(graph_type::gridModel, 6, 4);
+    gl::DisplayList list;
+    graph.Draw(list, scene.context());
+
+    std::vector<std::pair<int, int>> nodes;
+    list.forEach([&](const gl::Operation& operation) {
+        if (operation.op == gl::Op::Vertex3d)
+            nodes.emplace_back(static_cast<int>(operation.numbers[2]), static_cast<int>(operation.numbers[0]) / 10);
+    });
+    std::map<std::pair<std::pair<int, int>, std::pair<int, int>>, int> edges;
+    for (std::size_t i = 0; i + 1 < nodes.size(); i += 2) {
+        const int length =
+            std::abs(nodes[i].first - nodes[i + 1].first) + std::abs(nodes[i].second - nodes[i + 1].second);
+        EXPECT_EQ(length, 1);
+        ++edges[std::minmax(nodes[i], nodes[i + 1])];
+    }
+    EXPECT_EQ(edges.size(), 6U * 5 + 7U * 4);
+    EXPECT_TRUE(std::ranges::all_of(edges, [](const auto& edge) { return edge.second == 1; }));
+}
+
+TEST(TableGraph, joinsItsFirstRowAndRingsItsNodes) {
+    SmallScene scene;
+    scene.scene = {scene::mode3D, 1, 2, 3};
+    Cls9 graph = graphOf(graph_type::table, 1, 1);
+    graph.LineColor = base::packColor(0, 0, 255);
+    graph.VertTab3D(0, 0) = scene::Cls2::init(8, 8, 8);
+    graph.VertTab3D(0, 1) = scene::Cls2::init(4, 12, 16);
+    EXPECT_EQ(scene.drawn(graph),
+              preparation + "glColor3d 0 0 1\nglBegin GL_LINES\nglVertex3d 1 1 -1\nglVertex3d -1 2 0\nglEnd\n" +
+                  sphereText("0 0 0", "7 6 5", "0.1") + sphereText("0 0 0", "3 10 13", "0.1") +
+                  "glDisable GL_LINE_SMOOTH\nglDisable GL_BLEND\nglEnable GL_LIGHTING\n");
+    EXPECT_EQ(graph.VertTab3D(0, 1).Symbol, 2);
+    EXPECT_EQ(graph.VertTab3D(0, 1).y, 12);
+
+    graph.StepV = 2000000000;
+    EXPECT_THROW(scene.drawn(graph), base::Failure);
+}
+
+/// Where OpenGL puts the tip of the cone that the list draws.
+Node tipOf(const gl::DisplayList& list) {
+    std::vector<double> shift;
+    std::vector<double> turn;
+    double height = 0;
+    list.forEach([&](const gl::Operation& operation) {
+        if (operation.op == gl::Op::Translatef) shift.assign(operation.numbers.begin(), operation.numbers.end());
+        if (operation.op == gl::Op::Rotatef) turn.assign(operation.numbers.begin(), operation.numbers.end());
+        if (operation.op == gl::Op::Cylinder) height = operation.numbers[2];
+    });
+    const double angle = turn[0] * 3.14159265358979 / 180;
+    // The z axis turned about (ax, ay, 0).
+    return {shift[0] + height * turn[2] * std::sin(angle), shift[1] - height * turn[1] * std::sin(angle),
+            shift[2] + height * std::cos(angle)};
+}
+
+TEST(Arrow, reachesFromTheFirstPointToTheSecond) {
+    SmallScene scene;
+    scene.scene = {scene::mode4D, 0.5, -1, 2};
+    std::mt19937 engine(4);
+    std::uniform_real_distribution<double> numbers(-5, 5);
+    for (int n = 0; n < 100; ++n) {
+        const Node from{numbers(engine), numbers(engine), numbers(engine)};
+        const Node to{numbers(engine), numbers(engine), numbers(engine)};
+        gl::DisplayList list;
+        DrawArrow(list, Cls9(), scene.context(), from, to);
+        const Node tip = tipOf(list);
+        EXPECT_NEAR(tip.x, to.x - 0.5, 1e-3);
+        EXPECT_NEAR(tip.y, to.y + 1, 1e-3);
+        EXPECT_NEAR(tip.z, to.z - 2, 1e-3);
+    }
+}
+
+TEST(Arrow, keepsTheEndsOfItsArithmetic) {
+    SmallScene scene;
+    Cls9 graph;
+    graph.Vect4DColor = base::packColor(255, 0, 51);
+    const auto arrow = [&](const Node& to) {
+        gl::DisplayList list;
+        DrawArrow(list, graph, scene.context(), {1, 1, 1}, to);
+        return gl::toText(list);
+    };
+    const auto expected = [](const std::string& rotation, const std::string& cone) {
+        return "glColor3f 1 0 0.2\nglPushMatrix\ngluNewQuadric\nglTranslatef 1 1 1\nglRotatef " + rotation +
+               "\ngluCylinder " + cone + " 6 6\ngluDeleteQuadric\nglPopMatrix\n";
+    };
+    EXPECT_EQ(arrow({1, 1, 6}), expected("0 -0 0 0", "1 0 5"));
+    EXPECT_EQ(arrow({1, 1, -4}), expected("180 0 -0 0", "1 0 5"));
+    EXPECT_EQ(arrow({1, 1, 1}), expected("89.99979 -0 0 0", "2e-08 0 1e-07"));
+    EXPECT_NE(arrow({4, 5, 1}).find(" -0 0 0\ngluCylinder 1 0 5 6 6\n"), std::string::npos)
+        << "a cone across z has no axis to turn about";
+}
+
+}  // namespace
+}  // namespace tessaplot::graphs
