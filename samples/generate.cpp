@@ -38,7 +38,7 @@ void writeGridVertex(const std::filesystem::path& folder) {
     graphs::Cls9& vertices = sample.add(graphs::graph_type::vertexModel, "3D Vertex Model");
     vertices.VertSize = 2;
     vertices.VertColor = packColor(200, 40, 40);
-    addGridModel(sample, packColor(20, 60, 160));
+    addGridModel(sample, packColor(60, 110, 230));
     sample.write(folder / "grid_vertex.tsp");
 }
 
@@ -47,10 +47,10 @@ void writeCylinder(const std::filesystem::path& folder) {
     SampleBuilder sample(scene::mode3D);
     sample.regularSurface(DataKind::RegularCylindrical, 49, 41, [](double u, double v) {
         const double height = between(0, 12, v);
-        const double radius = 3 + 1.2 * std::sin(height * 0.75) + 0.15 * std::cos(6 * between(0, 2 * M_PI, u));
+        const double radius = 3 + 0.9 * std::sin(height * 0.75) + 0.15 * std::cos(6 * between(0, 2 * M_PI, u));
         return Row{between(0, 360, u), radius, height, radius};
     });
-    addGridModel(sample, packColor(0, 110, 90));
+    addGridModel(sample, packColor(0, 150, 130));
     sample.write(folder / "cylinder.tsp");
 }
 
@@ -64,7 +64,7 @@ void writeSphere(const std::filesystem::path& folder) {
         const double radius = 5 + 0.9 * bump;
         return Row{longitude, polar, radius, radius};
     });
-    addGridModel(sample, packColor(120, 50, 140));
+    addGridModel(sample, packColor(170, 70, 200));
     sample.write(folder / "sphere.tsp");
 }
 

@@ -1,8 +1,10 @@
 #include "commands.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include "base/failure.h"
 #include "core/app_state.h"
@@ -19,13 +21,6 @@ namespace {
 
 using base::Failure;
 using base::FailureCode;
-
-core::Document readKnownDocument(const std::filesystem::path& path) {
-    auto document = core::readDocument(core::readDocumentFile(path));
-    if (!document)
-        throw Failure(FailureCode::BadInput, "The file \"" + path.string() + "\" holds no known kind of document.");
-    return *std::move(document);
-}
 
 /// Opens the document as the window does.
 void open(core::AppState& state, const std::filesystem::path& path, int width, int height) {
@@ -48,6 +43,13 @@ void print(const std::string& text) {
 
 }  // namespace
 
+core::Document readKnownDocument(const std::filesystem::path& path) {
+    auto document = core::readDocument(core::readDocumentFile(path));
+    if (!document)
+        throw Failure(FailureCode::BadInput, "The file \"" + path.string() + "\" holds no known kind of document.");
+    return *std::move(document);
+}
+
 void render(const RenderOptions& options) {
     core::AppState state;
     open(state, options.document, options.width, options.height);
@@ -57,7 +59,8 @@ void render(const RenderOptions& options) {
     const gl::OffscreenContext context;
     gl::Replay replay;
     replay.draw(core::recordDisplay(state), options.width, options.height);
-    pictures::writePicture(options.picture, replay.readPixels());
+    const std::vector<std::uint8_t> pixels = replay.readPixels();
+    pictures::writePicture(options.picture, {pixels, replay.width(), replay.height(), 3});
 }
 
 void trace(const TraceOptions& options) {

@@ -3,7 +3,12 @@
 #include <filesystem>
 #include <string>
 
+#include "core/document.h"
+
 namespace tessaplot::cli {
+
+/// The document at `path`. Throws base::Failure if it cannot be read or is none.
+core::Document readKnownDocument(const std::filesystem::path& path);
 
 struct RenderOptions {
     std::filesystem::path document;

@@ -2,9 +2,11 @@
 #include <cstdio>
 #include <exception>
 #include <new>
+#include <optional>
 #include <string>
 
 #include "commands.h"
+#include "data_commands.h"
 
 namespace {
 
@@ -64,17 +66,39 @@ void addInfo(CLI::App& app, std::string& document) {
     command->callback([&document] { cli::info(document); });
 }
 
-struct ConvertPaths {
+struct FilePair {
     std::string from;
     std::string to;
 };
 
-void addConvert(CLI::App& app, ConvertPaths& paths) {
-    CLI::App* command = app.add_subcommand("convert", "Write a document of any generation in the newest one");
+/// A command that reads one file and writes another.
+CLI::App* addFileCommand(CLI::App& app, const char* name, const char* description, FilePair& files) {
+    CLI::App* command = app.add_subcommand(name, description);
     addVersion(*command);
-    command->add_option("IN", paths.from, "The document to read")->required();
-    command->add_option("OUT", paths.to, "The document to write")->required();
-    command->callback([&paths] { cli::convert(paths.from, paths.to); });
+    command->add_option("IN", files.from, "The file to read")->required();
+    command->add_option("OUT", files.to, "The file to write")->required();
+    return command;
+}
+
+void addGrid(CLI::App& app, FilePair& files, int& method) {
+    CLI::App* command = addFileCommand(app, "grid", "Write the lattice that gridding makes of irregular data", files);
+    auto* option = command->add_option("--method", method, "Gridding method instead of the document's own")
+                       ->type_name("N")
+                       ->check(CLI::Range(1, 5) | CLI::Range(101, 103));
+    command->callback([&files, &method, option] {
+        cli::gridData(files.from, files.to, option->count() > 0 ? std::optional(method) : std::nullopt);
+    });
+}
+
+void addEval(CLI::App& app, cli::EvalOptions& options) {
+    CLI::App* command = app.add_subcommand("eval", "Evaluate a formula");
+    addVersion(*command);
+    command->add_option("FORMULA", options.formula, "The formula, for example \"SIN(X)+1\"")->required();
+    command->add_option("VARIABLE", options.variables, "Values of variables, for example X=1.5");
+    command->add_flag("--degrees", options.degrees, "Angles are degrees");
+    command->callback([&options] {
+        if (!cli::evaluate(options)) throw CLI::RuntimeError(1);
+    });
 }
 
 int failed(const char* message) {
@@ -91,13 +115,26 @@ int main(int argc, char** argv) {
     cli::RenderOptions renderOptions;
     cli::TraceOptions traceOptions;
     std::string infoDocument;
-    ConvertPaths convertPaths;
+    cli::EvalOptions evalOptions;
+    FilePair files;
+    int method = 0;
     addRender(app, renderOptions);
     addTrace(app, traceOptions);
     addInfo(app, infoDocument);
-    addConvert(app, convertPaths);
+    addFileCommand(app, "convert", "Write a document of any generation in the newest one", files)
+        ->callback([&files] { cli::convert(files.from, files.to); });
+    addFileCommand(app, "import", "Make a document of a text of numbers", files)->callback([&files] {
+        cli::importData(files.from, files.to);
+    });
+    addFileCommand(app, "export", "Write the data of a document as text", files)->callback([&files] {
+        cli::exportData(files.from, files.to);
+    });
+    addGrid(app, files, method);
+    addEval(app, evalOptions);
     try {
         app.parse(argc, argv);
+    } catch (const CLI::RuntimeError& told) {
+        return told.get_exit_code();
     } catch (const CLI::ParseError& wrongUsage) {
         return app.exit(wrongUsage) == 0 ? 0 : 2;
     } catch (const std::bad_alloc&) {

@@ -6,8 +6,6 @@
 #include <span>
 #include <utility>
 
-#include "base/angle.h"
-
 namespace tessaplot::core {
 
 namespace {
@@ -50,16 +48,11 @@ CompiledScene recordBody(AppState& state) {
     return compiled;
 }
 
-scene::Quaternion rotationOfAngles(const Cls8& group) {
-    constexpr double degree = base::shortPi / 180;
-    const scene::Quaternion roll = scene::AxisToQuat({0, 0, 1}, group.RotRoll * degree);
-    const scene::Quaternion pitch = scene::AxisToQuat({1, 0, 0}, group.RotPitch * degree);
-    const scene::Quaternion yaw = scene::AxisToQuat({0, 1, 0}, group.RotYaw * degree);
-    return scene::AddQuats(scene::AddQuats(roll, pitch), yaw);
-}
-
 scene::Matrix16 sceneRotation(AppState& state) {
-    if (!state.UseQuat) state.CurQuat = rotationOfAngles(state.ShownGraphs);
+    if (!state.UseQuat) {
+        const Cls8& group = state.ShownGraphs;
+        state.CurQuat = scene::quatFromAngles(group.RotRoll, group.RotPitch, group.RotYaw);
+    }
     return scene::BuildRotMatrix(state.CurQuat);
 }
 

@@ -36,7 +36,8 @@ class Cls4 {
     void SetEye(double x, double y, double z);
     /// Takes the size of the drawing surface in physical pixels; a height of 0 becomes 1, also for the caller.
     void SetScreen(int width, int& height);
-    /// Moves the picture by fractions of the view volume.
+    /// Moves the picture by fractions of the view volume. Throws DivisionByZero if the eye stands at the reference
+    /// point.
     void MoveView(double dx, double dy);
     /// Places the eye for one of ten standard directions; a type outside 1 to 10 changes neither eye nor up vector.
     void SetViewType(int type);
@@ -59,7 +60,8 @@ class Cls4 {
     };
 
     /// Works out the volume that `Projection` emits and leaves the sides and the near plane in the properties.
-    /// `sceneBox` is asked for the box of the shown graphs in perspective only.
+    /// `sceneBox` is asked for the box of the shown graphs in perspective only. Perspective knows no guard: a box
+    /// larger than 1000 gives a near plane behind the eye, a viewport without a width gives limits that are no numbers.
     Volume volumeFor(double jitterX, double jitterY, const std::function<Cls1()>& sceneBox);
 
     /// Emits both matrices. The last three arguments are accepted and have no effect.

@@ -102,17 +102,6 @@ TEST(Scene, shownGraphsKeepTheOrderOfTheirTicks) {
     EXPECT_EQ(state.ShownGraphs.Graphs[1]->GraphType, graphs::graph_type::gridModel);
 }
 
-TEST(Scene, anglesTurnRollThenPitchThenYaw) {
-    AppState state;
-    state.ShownGraphs.setAngles(20, -30, 45);
-    RebuildScene(state);
-    constexpr double degree = 3.1416 / 180;
-    const auto turned = scene::AddQuats(scene::AddQuats(scene::AxisToQuat({0, 0, 1}, 20 * degree),
-                                                        scene::AxisToQuat({1, 0, 0}, -30 * degree)),
-                                        scene::AxisToQuat({0, 1, 0}, 45 * degree));
-    EXPECT_EQ(state.CurQuat, turned);
-}
-
 TEST(Scene, anEmptyGroupHasTheInvertedBox) {
     const AppState state;
     const scene::Cls1 box = state.ShownGraphs.GetBox(state.graphContext());
