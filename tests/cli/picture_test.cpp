@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "run_program.h"
+
+namespace tessaplot {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A document drawn at a small size and the picture that it is held against.
+struct Reference {
+    std::string name;
+    std::string sample;
+    std::vector<std::string> options;
+};
+
+std::ostream& operator<<(std::ostream& out, const Reference& reference) {
+    return out << reference.name;
+}
+
+/// Largest and mean difference of two pictures over all channels, from 0 to 255.
+struct Difference {
+    int largest = 0;
+    double mean = 0;
+};
+
+Difference differenceOf(const QImage& a, const QImage& b) {
+    Difference difference;
+    double sum = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            for (const int one :
+                 {std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)), std::abs(qBlue(p) - qBlue(q))}) {
+                difference.largest = std::max(difference.largest, one);
+                sum += one;
+            }
+        }
+    }
+    difference.mean = sum / (3.0 * a.width() * a.height());
+    return difference;
+}
+
+/// The part of the picture that is not white.
+QRect inkOf(const QImage& image) {
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != qRgb(255, 255, 255)) ink |= QRect(x, y, 1, 1);
+    return ink;
+}
+
+class Picture : public testing::TestWithParam<Reference> {};
+
+/// Lines of software drivers differ by version, a changed scene differs everywhere: the mean tells them apart.
+TEST_P(Picture, isTheReferenceAndIsFittedOnWhiteGround) {
+    const Reference& wanted = GetParam();
+    fs::create_directories(TESSAPLOT_PICTURES);
+    const std::string result = std::string(TESSAPLOT_PICTURES) + "/" + wanted.name + ".png";
+    std::vector<std::string> arguments{"render", std::string(TESSAPLOT_SAMPLES) + "/" + wanted.sample + ".tsp", result,
+                                       "--size", "200x160"};
+    arguments.insert(arguments.end(), wanted.options.begin(), wanted.options.end());
+    const ProgramRun run = cli(arguments);
+    ASSERT_EQ(run.status, 0) << run.err;
+    const QImage drawn(QString::fromStdString(result));
+    ASSERT_EQ(drawn.size(), QSize(200, 160));
+    const QRect ink = inkOf(drawn);
+    EXPECT_TRUE(QRect(2, 2, 196, 156).contains(ink)) << "nothing is clipped at the border";
+    EXPECT_GT(ink.height(), 60) << "the scene fills the picture";
+
+    const QImage reference(QString::fromStdString(std::string(TESSAPLOT_REFERENCES) + "/" + wanted.name + ".png"));
+    ASSERT_EQ(reference.size(), drawn.size()) << "no reference picture; look at " << result;
+    const Difference difference = differenceOf(drawn, reference);
+    EXPECT_LE(difference.mean, 0.5) << result;
+    EXPECT_LE(difference.largest, 96) << result;
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, Picture,
+                         testing::Values(Reference{"grid_vertex_iso", "grid_vertex", {}},
+                                         Reference{"cylinder_quick_right", "cylinder", {"--quick", "--view", "right"}},
+                                         Reference{"sphere_top", "sphere", {"--view", "top"}}),
+                         testing::PrintToStringParamName());
+
+}  // namespace
+}  // namespace tessaplot
