@@ -1,52 +1,16 @@
 #include "core/text_encoding.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <optional>
+
+#include "base/character.h"
 
 namespace tessaplot::core {
 
 namespace {
 
-/// Characters of bytes 0x80 to 0x9f; an unassigned byte stands for the control character of its own number.
-constexpr std::array<char32_t, 32> upperControls{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
 bool isPlainAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
-char32_t characterOf(unsigned char byte) {
-    return byte >= 0x80 && byte < 0xA0 ? upperControls[byte - 0x80U] : byte;
-}
-
-std::optional<unsigned char> byteOf(char32_t character) {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<unsigned char>(character);
-    const auto* found = std::find(upperControls.begin(), upperControls.end(), character);
-    if (found == upperControls.end()) return std::nullopt;
-    return static_cast<unsigned char>(0x80 + (found - upperControls.begin()));
-}
-
-/// Takes one character off the front of `text`; no value if that is not well-formed UTF-8.
-std::optional<char32_t> takeCharacter(std::string_view& text) {
-    const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-    if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || text.size() < length) return std::nullopt;
-    constexpr std::array<char32_t, 5> leadMask{0, 0x7F, 0x1F, 0x0F, 0x07};
-    char32_t character = lead & leadMask[length];
-    for (std::size_t i = 1; i < length; ++i) {
-        const auto next = static_cast<unsigned char>(text[i]);
-        if ((next & 0xC0U) != 0x80) return std::nullopt;
-        character = (character << 6U) | (next & 0x3FU);
-    }
-    constexpr std::array<char32_t, 5> least{0, 0, 0x80, 0x800, 0x10000};
-    const bool surrogate = character >= 0xD800 && character < 0xE000;
-    if (character < least[length] || character > 0x10FFFF || surrogate) return std::nullopt;
-    text.remove_prefix(length);
-    return character;
 }
 
 void appendUtf8(std::string& out, char32_t character) {
@@ -65,7 +29,7 @@ void appendUtf8(std::string& out, char32_t character) {
 
 bool isUtf8(std::string_view text) {
     while (!text.empty())
-        if (!takeCharacter(text)) return false;
+        if (!base::takeUtf8Character(text)) return false;
     return true;
 }
 
@@ -75,8 +39,8 @@ std::string toFileBytes(std::string_view utf8) {
     if (isPlainAscii(utf8)) return std::string(utf8);
     std::string bytes;
     for (std::string_view rest = utf8; !rest.empty();) {
-        const auto character = takeCharacter(rest);
-        const auto byte = character ? byteOf(*character) : std::nullopt;
+        const auto character = base::takeUtf8Character(rest);
+        const auto byte = character ? base::windows1252Byte(*character) : std::nullopt;
         if (!byte) return std::string(utf8);
         bytes += static_cast<char>(*byte);
     }
@@ -87,7 +51,7 @@ std::string toFileBytes(std::string_view utf8) {
 std::string fromFileBytes(std::string_view bytes) {
     if (isPlainAscii(bytes) || isUtf8(bytes)) return std::string(bytes);
     std::string utf8;
-    for (const char c : bytes) appendUtf8(utf8, characterOf(static_cast<unsigned char>(c)));
+    for (const char c : bytes) appendUtf8(utf8, base::windows1252Character(static_cast<unsigned char>(c)));
     return utf8;
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 #include "expr/formula_machine.h"
 #include "expr/formula_program.h"
 #include "expr/random_sequence.h"
+#include "expr/tokens.h"
 
 namespace tessaplot::expr {
 
@@ -15,19 +17,22 @@ class CompiledFormula {
     /// Never fails; what is wrong with the text shows at the evaluation, as if the text were read then.
     explicit CompiledFormula(std::string_view postfix);
 
-    /// Sets the variables for the evaluations that follow; only those that the formula names are read.
-    void assign(const double& U, const double& V, const double& X, const double& Y, const double& A, const double& R,
-                const double& B, const double& T) {
-        const std::uint32_t used = program_.usedVariables;
+    /// Sets the variables for the evaluations that follow.
+    void assign(double U, double V, double X, double Y, double A, double R, double B, double T) {
         double* cells = program_.cells.data();
-        if (used & 1U) cells[0] = U;
-        if (used & 2U) cells[1] = V;
-        if (used & 4U) cells[2] = X;
-        if (used & 8U) cells[3] = Y;
-        if (used & 16U) cells[4] = A;
-        if (used & 32U) cells[5] = R;
-        if (used & 64U) cells[6] = B;
-        if (used & 128U) cells[7] = T;
+        cells[0] = U;
+        cells[1] = V;
+        cells[2] = X;
+        cells[3] = Y;
+        cells[4] = A;
+        cells[5] = R;
+        cells[6] = B;
+        cells[7] = T;
+    }
+
+    /// Sets the variables to those of another formula.
+    void assignFrom(const CompiledFormula& other) {
+        std::copy_n(other.program_.cells.begin(), variableCount, program_.cells.begin());
     }
 
     /// Evaluates the formula, with `degrees` taking angles in degrees. `result` is written for Outcome::Value only.

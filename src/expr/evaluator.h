@@ -29,7 +29,7 @@ struct EvaluatorContext {
 class Cls6 {
  public:
     /// The context must outlive the evaluator.
-    explicit Cls6(EvaluatorContext& context) : context_(context) {}
+    explicit Cls6(EvaluatorContext& context);
 
     /// Appends the postfix text of `sExpression` to `sBuffer`, each token followed by one blank. Returns true and sets
     /// `position` to 0 if the formula is good. Otherwise reports "Character N:  message" under the title "Syntax
@@ -54,14 +54,16 @@ class Cls6 {
         CompiledFormula formula;
     };
 
-    bool isLastUsed(std::string_view postfix) const { return cache_[0] && cache_[0]->postfix == postfix; }
-    void makeLastUsed(std::string_view postfix);
+    static std::unique_ptr<CachedFormula> compile(std::string_view postfix);
+    /// Makes `postfix` the front of the cache, with the variables of the former front.
+    void changeTo(std::string_view postfix);
     bool endWithout(Outcome outcome, double& result) const;
     void report(std::string_view title, std::string_view text) const;
 
     EvaluatorContext& context_;
     std::string syntaxMessage_;
-    // Several, because the coordinates of a sample are often formulas evaluated in turn. The first is the last used.
+    // Several, because the coordinates of a sample are often formulas evaluated in turn. The first is the last used and
+    // always there.
     std::array<std::unique_ptr<CachedFormula>, 4> cache_;
 };
 

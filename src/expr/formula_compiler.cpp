@@ -13,12 +13,20 @@ namespace {
 
 constexpr std::uint32_t noCell = UINT32_MAX;
 
-/// The code of an operation whose operands are `form` places after the first of its forms.
+// How many codes lie between those of an operation that differ in where its operands are.
+constexpr std::uint32_t codesOfForm = 2;
+
+/// The code of an operation whose operands are as in the given one of its forms, which count from 0.
 Code codeOf(Operation operation, std::uint32_t form) {
     const auto index = static_cast<std::uint32_t>(operation);
-    if (isBinary(operation)) return static_cast<Code>(3 * index + form);
+    if (isBinary(operation)) return static_cast<Code>((3 * index + form) * codesOfForm);
     constexpr auto firstUnary = static_cast<std::uint32_t>(Operation::Negate);
-    return static_cast<Code>(static_cast<std::uint32_t>(Code::NegateA) + 2 * (index - firstUnary) + form);
+    return static_cast<Code>(static_cast<std::uint32_t>(Code::NegateA) +
+                             (2 * (index - firstUnary) + form) * codesOfForm);
+}
+
+Code keeping(Code code) {
+    return static_cast<Code>(static_cast<std::uint32_t>(code) + 1);
 }
 
 }  // namespace
@@ -40,7 +48,6 @@ void FormulaCompiler::addToken(std::string_view token) {
     if (!token.empty() && isNumberCharacter(token.front())) {
         addNumber(token);
     } else if (const auto variable = variableOf(token)) {
-        program_.usedVariables |= 1U << *variable;
         stack_.push_back(static_cast<Cell>(*variable));
     } else if (const auto operation = operationOf(token)) {
         addOperation(*operation);
@@ -59,8 +66,14 @@ void FormulaCompiler::addNumber(std::string_view token) {
 
 void FormulaCompiler::addOperation(Operation operation) {
     if (stack_.size() < (isBinary(operation) ? 2U : 1U)) return end(Ending::PopOnEmpty);
-    const Cell right = isBinary(operation) ? pop() : 0;
-    const Cell left = pop();
+    Cell right = isBinary(operation) ? pop() : 0;
+    Cell left = pop();
+    const bool isFactor = operation == Operation::Multiply || operation == Operation::Divide;
+    if (isFactor && isConstant_[right] && isNegation(left)) {
+        // (-a) * c is a * (-c) to the last bit, and the second negation costs nothing.
+        left = steps_.back().left;
+        right = constant(-program_.cells[right]);
+    }
     stack_.push_back(resultOf(operation, left, right));
 }
 
@@ -113,20 +126,38 @@ bool FormulaCompiler::fold(Operation operation, Cell left, Cell right, double& v
     return isConstant_[right] && applyBinary(operation, cells[left], cells[right], value) == Outcome::Value;
 }
 
+/// True for the result of the latest step, if that is a negation.
+bool FormulaCompiler::isNegation(Cell cell) const {
+    return !steps_.empty() && steps_.back().operation == Operation::Negate && steps_.back().result == cell;
+}
+
+/// Drops the negations that went into a factor. No other step may go: it could fail.
+void FormulaCompiler::dropUnusedNegations() {
+    std::vector<bool> isUsed(program_.cells.size(), false);
+    for (const Step& step : steps_)
+        isUsed[step.left] = isUsed[step.right] = true;
+    for (const Cell cell : stack_)
+        isUsed[cell] = true;
+    std::erase_if(steps_,
+                  [&](const Step& step) { return step.operation == Operation::Negate && !isUsed[step.result]; });
+}
+
 void FormulaCompiler::generate() {
+    dropUnusedNegations();
     markKept();
     Cell accumulator = noCell;
     for (const Step& step : steps_) {
-        program_.instructions.push_back(instructionFor(step, accumulator));
-        if (isKept_[step.result]) program_.instructions.push_back({Code::Keep, step.result, 0});
+        Instruction instruction = instructionFor(step, accumulator);
+        if (isKept_[step.result]) instruction.code = keeping(instruction.code);
+        program_.instructions.push_back(instruction);
         accumulator = step.result;
     }
     if (program_.ending != Ending::Value) {
-        program_.instructions.push_back({Code::Stop, 0, 0});
+        program_.instructions.push_back({Code::Stop});
         return;
     }
-    if (stack_.back() != accumulator) program_.instructions.push_back({Code::Load, stack_.back(), 0});
-    program_.instructions.push_back({Code::Finish, 0, 0});
+    if (stack_.back() != accumulator) program_.instructions.push_back({Code::Load, stack_.back()});
+    program_.instructions.push_back({Code::Finish});
 }
 
 /// Finds the results that are read from a cell, not only from the accumulator by the step that follows.
@@ -144,15 +175,19 @@ void FormulaCompiler::markKept() {
 
 Instruction FormulaCompiler::instructionFor(const Step& step, Cell accumulator) const {
     const auto [operation, left, right, result] = step;
-    if (operation == Operation::Rnd) return {Code::Random, 0, 0};
-    if (operation == Operation::Power && isConstant_[right] && program_.cells[right] == 2)
-        return left == accumulator ? Instruction{Code::SquareAC, right, 0} : Instruction{Code::SquareCC, left, right};
-    if (!isBinary(operation))
-        return left == accumulator ? Instruction{codeOf(operation, 0), 0, 0}
-                                   : Instruction{codeOf(operation, 1), left, 0};
-    if (right == accumulator) return {codeOf(operation, 1), left, 0};
-    if (left == accumulator) return {codeOf(operation, 0), right, 0};
-    return {codeOf(operation, 2), left, right};
+    const bool isLeft = left == accumulator;
+    if (operation == Operation::Rnd) return {Code::Random, 0, 0, result};
+    if (operation == Operation::Power && isConstant_[right] && program_.cells[right] == 2) {
+        if (isLeft) return {Code::SquareAC, right, 0, result};
+        return {Code::SquareCC, left, right, result};
+    }
+    if (!isBinary(operation)) {
+        if (isLeft) return {codeOf(operation, 0), 0, 0, result};
+        return {codeOf(operation, 1), left, 0, result};
+    }
+    if (right == accumulator) return {codeOf(operation, 1), left, 0, result};
+    if (isLeft) return {codeOf(operation, 0), right, 0, result};
+    return {codeOf(operation, 2), left, right, result};
 }
 
 }  // namespace tessaplot::expr

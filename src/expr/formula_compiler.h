@@ -38,7 +38,9 @@ class FormulaCompiler {
     Cell newCell(double value, bool isConstant);
     Cell resultOf(Operation operation, Cell left, Cell right);
     bool fold(Operation operation, Cell left, Cell right, double& value) const;
+    bool isNegation(Cell cell) const;
 
+    void dropUnusedNegations();
     void generate();
     void markKept();
     Instruction instructionFor(const Step& step, Cell accumulator) const;

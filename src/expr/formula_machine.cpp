@@ -1,5 +1,7 @@
 #include "expr/formula_machine.h"
 
+#include <iterator>
+
 #include "expr/formula_math.h"
 
 namespace tessaplot::expr {
@@ -7,37 +9,46 @@ namespace tessaplot::expr {
 // A jump of its own at the end of every instruction, which the processor learns to foresee from what ran before, costs
 // half of a loop around a switch. Hence the table of labels, an extension that GCC and Clang share.
 Outcome runProgram(Program& program, bool degrees, RandomSequence& random, double& value) {
-    static constexpr const void* labels[] = {
-#define TESSAPLOT_EXPR_BINARY(name, text) &&name##AC, &&name##CA, &&name##CC,
+    // clang-format off
+#define TESSAPLOT_EXPR_LABELS(form) &&form, &&form##K,
+#define TESSAPLOT_EXPR_BINARY(name, text) \
+    TESSAPLOT_EXPR_LABELS(name##AC) TESSAPLOT_EXPR_LABELS(name##CA) TESSAPLOT_EXPR_LABELS(name##CC)
+#define TESSAPLOT_EXPR_UNARY(name, text) TESSAPLOT_EXPR_LABELS(name##A) TESSAPLOT_EXPR_LABELS(name##C)
+    static const void* const labels[] = {
         TESSAPLOT_EXPR_BINARIES(TESSAPLOT_EXPR_BINARY)
-#undef TESSAPLOT_EXPR_BINARY
-#define TESSAPLOT_EXPR_UNARY(name, text) &&name##A, &&name##C,
-                TESSAPLOT_EXPR_UNARIES(TESSAPLOT_EXPR_UNARY)
+        TESSAPLOT_EXPR_UNARIES(TESSAPLOT_EXPR_UNARY)
+        TESSAPLOT_EXPR_LABELS(SquareAC)
+        TESSAPLOT_EXPR_LABELS(SquareCC)
+        TESSAPLOT_EXPR_LABELS(Random)
+        &&Load, &&Finish, &&Stop,
+    };
 #undef TESSAPLOT_EXPR_UNARY
-            && SquareAC,
-        &&SquareCC,
-        &&Random,
-        &&Keep,
-        &&Load,
-        &&Finish,
-        &&Stop};
+#undef TESSAPLOT_EXPR_BINARY
+#undef TESSAPLOT_EXPR_LABELS
+    // clang-format on
+    static_assert(std::size(labels) == static_cast<std::size_t>(Code::Stop) + 1);
 
     const Instruction* at = program.instructions.data();
     double* const cells = program.cells.data();
     double accumulator = 0;
 
 #define TESSAPLOT_EXPR_GO() goto* labels[static_cast<std::uint32_t>(at->code)]
-#define TESSAPLOT_EXPR_NEXT() \
-    ++at;                     \
-    TESSAPLOT_EXPR_GO()
-#define TESSAPLOT_EXPR_DO(label, ...)               \
-    label : {                                       \
-        double result = 0;                          \
-        const Outcome outcome = __VA_ARGS__;        \
-        if (outcome != Outcome::Value) [[unlikely]] \
-            return outcome;                         \
-        accumulator = result;                       \
-        TESSAPLOT_EXPR_NEXT();                      \
+#define TESSAPLOT_EXPR_COMPUTE(...)                                                  \
+    double result = 0;                                                               \
+    if (const Outcome outcome = __VA_ARGS__; outcome != Outcome::Value) [[unlikely]] \
+        return outcome;                                                              \
+    accumulator = result
+#define TESSAPLOT_EXPR_DO(form, ...)         \
+    form : {                                 \
+        TESSAPLOT_EXPR_COMPUTE(__VA_ARGS__); \
+        ++at;                                \
+        TESSAPLOT_EXPR_GO();                 \
+    }                                        \
+    form##K : {                              \
+        TESSAPLOT_EXPR_COMPUTE(__VA_ARGS__); \
+        cells[at->result] = result;          \
+        ++at;                                \
+        TESSAPLOT_EXPR_GO();                 \
     }
 #define TESSAPLOT_EXPR_BINARY(name, text)                                                            \
     TESSAPLOT_EXPR_DO(name##AC, applyBinary(Operation::name, accumulator, cells[at->first], result)) \
@@ -53,10 +64,10 @@ Outcome runProgram(Program& program, bool degrees, RandomSequence& random, doubl
     TESSAPLOT_EXPR_DO(SquareAC, square(accumulator, cells[at->first], result))
     TESSAPLOT_EXPR_DO(SquareCC, square(cells[at->first], cells[at->second], result))
     TESSAPLOT_EXPR_DO(Random, yield(random.next(), result))
-Keep:
-    cells[at->first] = accumulator;
-    TESSAPLOT_EXPR_NEXT();
-    TESSAPLOT_EXPR_DO(Load, yield(cells[at->first], result))
+Load:
+    accumulator = cells[at->first];
+    ++at;
+    TESSAPLOT_EXPR_GO();
 Finish:
     value = accumulator;
     return Outcome::Value;

@@ -39,7 +39,7 @@ inline Outcome square(double base, double exponent, double& value) {
     const double product = base * base;
     const double upper = std::bit_cast<double>(std::bit_cast<std::uint64_t>(base) & upperBits);
     const double lower = base - upper;
-    const double missing = ((upper * upper - product) + 2 * upper * lower) + lower * lower;
+    const double missing = (upper * upper - product) + (base + upper) * lower;
     const bool decided = product + 1.03 * missing == product && product > 0x1p-63 && product < 0x1p63;
     if (!decided) [[unlikely]]
         return power(base, exponent, value);

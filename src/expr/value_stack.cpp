@@ -41,7 +41,7 @@ void Cls13::pushEntry(Entry entry) {
 }
 
 Cls13::Value Cls13::valueOf(const Entry& entry) {
-    if (const auto* variable = std::get_if<Reference>(&entry)) return variable->get();
+    if (const auto* reference = std::get_if<Reference>(&entry)) return *reference->variable;
     return std::get<Value>(entry);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -13,7 +12,9 @@ class Cls13 {
  public:
     using Value = std::variant<std::string, double, float, std::int16_t>;
     /// A variable of the caller; its value is read when the entry is popped, not when it is pushed.
-    using Reference = std::reference_wrapper<const double>;
+    struct Reference {
+        const double* variable = nullptr;
+    };
 
     std::int32_t StackSize() const { return size_; }
     void Push(Value value);

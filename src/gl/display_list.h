@@ -1,7 +1,5 @@
 #pragma once
 
-#include <GL/gl.h>
-
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -9,6 +7,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <GL/gl.h>
 
 namespace tessaplot::gl {
 
@@ -173,6 +173,9 @@ class DisplayList {
 
     /// Calls another list; `text` shows its operations in place.
     void glCallList(DisplayListPtr list);
+
+    /// Records an operation of another list once more.
+    void append(const DisplayList& from, const Operation& operation);
 
     bool empty() const { return ops_.empty(); }
     std::size_t size() const { return ops_.size(); }

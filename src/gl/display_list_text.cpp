@@ -16,58 +16,110 @@ struct CallForm {
 
 CallForm formOf(Op op) {
     switch (op) {
-        case Op::Begin: return {"glBegin", "p"};
-        case Op::End: return {"glEnd", ""};
-        case Op::Vertex3d: return {"glVertex3d", "ddd"};
-        case Op::Normal3d: return {"glNormal3d", "ddd"};
-        case Op::Color3f: return {"glColor3f", "fff"};
-        case Op::Color3d: return {"glColor3d", "ddd"};
-        case Op::Color4f: return {"glColor4f", "ffff"};
-        case Op::Color4d: return {"glColor4d", "dddd"};
-        case Op::TexCoord2d: return {"glTexCoord2d", "dd"};
-        case Op::Enable: return {"glEnable", "e"};
-        case Op::Disable: return {"glDisable", "e"};
-        case Op::LineWidth: return {"glLineWidth", "f"};
-        case Op::ShadeModel: return {"glShadeModel", "e"};
-        case Op::PolygonMode: return {"glPolygonMode", "ee"};
-        case Op::PolygonOffset: return {"glPolygonOffset", "ff"};
-        case Op::Hint: return {"glHint", "ee"};
-        case Op::BlendFunc: return {"glBlendFunc", "bb"};
-        case Op::DepthMask: return {"glDepthMask", "o"};
-        case Op::ColorMaterial: return {"glColorMaterial", "ee"};
-        case Op::Materialfv: return {"glMaterialfv", "ee*"};
-        case Op::Lightfv: return {"glLightfv", "le*"};
-        case Op::LightModelfv: return {"glLightModelfv", "e*"};
-        case Op::MatrixMode: return {"glMatrixMode", "e"};
-        case Op::LoadIdentity: return {"glLoadIdentity", ""};
-        case Op::PushMatrix: return {"glPushMatrix", ""};
-        case Op::PopMatrix: return {"glPopMatrix", ""};
-        case Op::MultMatrixf: return {"glMultMatrixf", "*"};
-        case Op::Translatef: return {"glTranslatef", "fff"};
-        case Op::Rotatef: return {"glRotatef", "ffff"};
-        case Op::Scalef: return {"glScalef", "fff"};
-        case Op::Ortho: return {"glOrtho", "dddddd"};
-        case Op::Frustum: return {"glFrustum", "dddddd"};
-        case Op::LookAt: return {"gluLookAt", "ddddddddd"};
-        case Op::RenderMode: return {"glRenderMode", "e"};
-        case Op::Viewport: return {"glViewport", "iiii"};
-        case Op::Clear: return {"glClear", "c"};
-        case Op::Accum: return {"glAccum", "ef"};
-        case Op::Flush: return {"glFlush", ""};
-        case Op::Finish: return {"glFinish", ""};
-        case Op::PushAttrib: return {"glPushAttrib", "a"};
-        case Op::PopAttrib: return {"glPopAttrib", ""};
-        case Op::RasterPos3f: return {"glRasterPos3f", "fff"};
-        case Op::ListBase: return {"glListBase", "i"};
-        case Op::CallListsText: return {"glCallLists", "ie"};
-        case Op::TexParameteri: return {"glTexParameteri", "eee"};
-        case Op::TexEnvi: return {"glTexEnvi", "eee"};
-        case Op::TexImage2D: return {"glTexImage2D", ""};
-        case Op::NewQuadric: return {"gluNewQuadric", ""};
-        case Op::DeleteQuadric: return {"gluDeleteQuadric", ""};
-        case Op::Sphere: return {"gluSphere", "dii"};
-        case Op::Cylinder: return {"gluCylinder", "dddii"};
-        case Op::CallList: return {"glCallList", ""};
+        case Op::Begin:
+            return {"glBegin", "p"};
+        case Op::End:
+            return {"glEnd", ""};
+        case Op::Vertex3d:
+            return {"glVertex3d", "ddd"};
+        case Op::Normal3d:
+            return {"glNormal3d", "ddd"};
+        case Op::Color3f:
+            return {"glColor3f", "fff"};
+        case Op::Color3d:
+            return {"glColor3d", "ddd"};
+        case Op::Color4f:
+            return {"glColor4f", "ffff"};
+        case Op::Color4d:
+            return {"glColor4d", "dddd"};
+        case Op::TexCoord2d:
+            return {"glTexCoord2d", "dd"};
+        case Op::Enable:
+            return {"glEnable", "e"};
+        case Op::Disable:
+            return {"glDisable", "e"};
+        case Op::LineWidth:
+            return {"glLineWidth", "f"};
+        case Op::ShadeModel:
+            return {"glShadeModel", "e"};
+        case Op::PolygonMode:
+            return {"glPolygonMode", "ee"};
+        case Op::PolygonOffset:
+            return {"glPolygonOffset", "ff"};
+        case Op::Hint:
+            return {"glHint", "ee"};
+        case Op::BlendFunc:
+            return {"glBlendFunc", "bb"};
+        case Op::DepthMask:
+            return {"glDepthMask", "o"};
+        case Op::ColorMaterial:
+            return {"glColorMaterial", "ee"};
+        case Op::Materialfv:
+            return {"glMaterialfv", "ee*"};
+        case Op::Lightfv:
+            return {"glLightfv", "le*"};
+        case Op::LightModelfv:
+            return {"glLightModelfv", "e*"};
+        case Op::MatrixMode:
+            return {"glMatrixMode", "e"};
+        case Op::LoadIdentity:
+            return {"glLoadIdentity", ""};
+        case Op::PushMatrix:
+            return {"glPushMatrix", ""};
+        case Op::PopMatrix:
+            return {"glPopMatrix", ""};
+        case Op::MultMatrixf:
+            return {"glMultMatrixf", "*"};
+        case Op::Translatef:
+            return {"glTranslatef", "fff"};
+        case Op::Rotatef:
+            return {"glRotatef", "ffff"};
+        case Op::Scalef:
+            return {"glScalef", "fff"};
+        case Op::Ortho:
+            return {"glOrtho", "dddddd"};
+        case Op::Frustum:
+            return {"glFrustum", "dddddd"};
+        case Op::LookAt:
+            return {"gluLookAt", "ddddddddd"};
+        case Op::RenderMode:
+            return {"glRenderMode", "e"};
+        case Op::Viewport:
+            return {"glViewport", "iiii"};
+        case Op::Clear:
+            return {"glClear", "c"};
+        case Op::Accum:
+            return {"glAccum", "ef"};
+        case Op::Flush:
+            return {"glFlush", ""};
+        case Op::Finish:
+            return {"glFinish", ""};
+        case Op::PushAttrib:
+            return {"glPushAttrib", "a"};
+        case Op::PopAttrib:
+            return {"glPopAttrib", ""};
+        case Op::RasterPos3f:
+            return {"glRasterPos3f", "fff"};
+        case Op::ListBase:
+            return {"glListBase", "i"};
+        case Op::CallListsText:
+            return {"glCallLists", "ie"};
+        case Op::TexParameteri:
+            return {"glTexParameteri", "eee"};
+        case Op::TexEnvi:
+            return {"glTexEnvi", "eee"};
+        case Op::TexImage2D:
+            return {"glTexImage2D", ""};
+        case Op::NewQuadric:
+            return {"gluNewQuadric", ""};
+        case Op::DeleteQuadric:
+            return {"gluDeleteQuadric", ""};
+        case Op::Sphere:
+            return {"gluSphere", "dii"};
+        case Op::Cylinder:
+            return {"gluCylinder", "dddii"};
+        case Op::CallList:
+            return {"glCallList", ""};
     }
     return {"", ""};
 }
@@ -81,11 +133,10 @@ struct Constant {
     { name, #name }
 
 constexpr Constant primitives[] = {
-    TESSAPLOT_CONSTANT(GL_POINTS),         TESSAPLOT_CONSTANT(GL_LINES),
-    TESSAPLOT_CONSTANT(GL_LINE_LOOP),      TESSAPLOT_CONSTANT(GL_LINE_STRIP),
-    TESSAPLOT_CONSTANT(GL_TRIANGLES),      TESSAPLOT_CONSTANT(GL_TRIANGLE_STRIP),
-    TESSAPLOT_CONSTANT(GL_TRIANGLE_FAN),   TESSAPLOT_CONSTANT(GL_QUADS),
-    TESSAPLOT_CONSTANT(GL_QUAD_STRIP),     TESSAPLOT_CONSTANT(GL_POLYGON),
+    TESSAPLOT_CONSTANT(GL_POINTS),       TESSAPLOT_CONSTANT(GL_LINES),     TESSAPLOT_CONSTANT(GL_LINE_LOOP),
+    TESSAPLOT_CONSTANT(GL_LINE_STRIP),   TESSAPLOT_CONSTANT(GL_TRIANGLES), TESSAPLOT_CONSTANT(GL_TRIANGLE_STRIP),
+    TESSAPLOT_CONSTANT(GL_TRIANGLE_FAN), TESSAPLOT_CONSTANT(GL_QUADS),     TESSAPLOT_CONSTANT(GL_QUAD_STRIP),
+    TESSAPLOT_CONSTANT(GL_POLYGON),
 };
 
 constexpr Constant blendFactors[] = {
@@ -189,16 +240,26 @@ std::string bitNames(double number, std::span<const Constant> table) {
 
 std::string argumentText(char kind, double number) {
     switch (kind) {
-        case 'd': return base::shortestText(number);
-        case 'i': return std::to_string(static_cast<long long>(number));
-        case 'p': return nameOf(number, primitives);
-        case 'b': return nameOf(number, blendFactors);
-        case 'c': return bitNames(number, bufferBits);
-        case 'a': return bitNames(number, attributeBits);
-        case 'o': return number != 0 ? "GL_TRUE" : "GL_FALSE";
-        case 'l': return "GL_LIGHT" + std::to_string(static_cast<unsigned>(number) - GL_LIGHT0);
-        case 'e': return nameOf(number, constants);
-        default: return base::shortestText(static_cast<float>(number));
+        case 'd':
+            return base::shortestText(number);
+        case 'i':
+            return std::to_string(static_cast<long long>(number));
+        case 'p':
+            return nameOf(number, primitives);
+        case 'b':
+            return nameOf(number, blendFactors);
+        case 'c':
+            return bitNames(number, bufferBits);
+        case 'a':
+            return bitNames(number, attributeBits);
+        case 'o':
+            return number != 0 ? "GL_TRUE" : "GL_FALSE";
+        case 'l':
+            return "GL_LIGHT" + std::to_string(static_cast<unsigned>(number) - GL_LIGHT0);
+        case 'e':
+            return nameOf(number, constants);
+        default:
+            return base::shortestText(static_cast<float>(number));
     }
 }
 

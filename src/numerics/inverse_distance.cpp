@@ -14,13 +14,17 @@ struct Offset {
     double y;
 };
 
+Offset fractionalOffset(const ScatteredSurface& surface, std::size_t i, double x, double y) {
+    const double angles = finite(surface.MaxX - surface.MinX, "the range of the angles");
+    const double heights = finite(surface.MaxZ - surface.MinZ, "the range of the heights");
+    return {quotient(base::degreesToRadians(x) - surface.x[i], angles, "the range of the angles"),
+            quotient(y - surface.z[i], heights, "the range of the heights")};
+}
+
 Offset offsetTo(const ScatteredSurface& surface, std::size_t i, double x, double y, bool colour) {
     switch (surface.coordinates) {
         case SurfaceCoordinates::Cylindrical:
-            if (colour)
-                return {quotient(base::degreesToRadians(x) - surface.x[i], surface.MaxX - surface.MinX,
-                                 "the range of the angles"),
-                        quotient(y - surface.z[i], surface.MaxZ - surface.MinZ, "the range of the heights")};
+            if (colour) return fractionalOffset(surface, i, x, y);
             return {x - base::radiansToDegrees(surface.x[i]), y - surface.z[i]};
         case SurfaceCoordinates::Spherical:
             return {x - base::radiansToDegrees(surface.x[i]), y - base::radiansToDegrees(surface.y[i])};

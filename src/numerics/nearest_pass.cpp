@@ -88,9 +88,7 @@ void plainAll(const Lattice& lattice, const Progress& progress, std::vector<doub
 
 /// True if no squared distance can leave the range of numbers. Only then is a fault a matter of one node.
 bool isSafe(const PlaneColumns& plane, const Lattice& lattice) {
-    const double largest = std::max({largestMagnitude(plane.x), largestMagnitude(plane.y), lattice.largest()});
-    const double range = std::min(std::abs(plane.rangeX), std::abs(plane.rangeY));
-    return range > 0 && largest <= safeCoordinate && largest / range <= safeCoordinate;
+    return plane.largestDistance(lattice) <= safeDistance;
 }
 
 void searchPlane(const PlaneColumns& plane, const Lattice& lattice, const Progress& progress,
@@ -150,9 +148,7 @@ void searchSurface(const ScatteredSurface& surface, const Lattice& lattice, cons
 }
 
 void searchVolume(const ScatteredVolume& volume, const Lattice& lattice, const Progress& progress, NodeValues& values) {
-    const double largest = std::max(
-        {largestMagnitude(volume.x), largestMagnitude(volume.y), largestMagnitude(volume.z), lattice.largest()});
-    if (largest <= safeCoordinate) {
+    if (largestDistance(volume, lattice) <= safeDistance) {
         const std::array<std::span<const double>, 3> columns = {volume.x, volume.y, volume.z};
         const std::array wanted = {Wanted{volume.v, &values.value}};
         const auto term = [](std::size_t, double difference) { return difference * difference; };

@@ -29,8 +29,10 @@ double planeSquare(const ScatteredSurface& surface, std::size_t i, double x, dou
 
 double colourSquare(const ScatteredSurface& surface, std::size_t i, double x, double y) {
     if (surface.coordinates != SurfaceCoordinates::Cylindrical) return planeSquare(surface, i, x, y);
-    const double angle = quotient(surface.x[i] - base::degreesToRadians(x), surface.MaxX - surface.MinX, "the angle");
-    const double height = quotient(surface.z[i] - y, surface.MaxZ - surface.MinZ, "the height");
+    const double angles = finite(surface.MaxX - surface.MinX, "the range of the angles");
+    const double heights = finite(surface.MaxZ - surface.MinZ, "the range of the heights");
+    const double angle = quotient(surface.x[i] - base::degreesToRadians(x), angles, "the range of the angles");
+    const double height = quotient(surface.z[i] - y, heights, "the range of the heights");
     return square(angle) + square(height);
 }
 

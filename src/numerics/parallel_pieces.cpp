@@ -5,6 +5,7 @@
 #include <chrono>
 #include <exception>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -72,6 +73,20 @@ void runWithProgress(Pieces& pieces, const Progress& progress) {
     }
 }
 
+/// One thread less than there are cores or pieces; fewer still where the system refuses them.
+std::vector<std::jthread> startHelpers(Pieces& pieces) {
+    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
+    const std::size_t wanted = std::min(cores, pieces.pieceCount()) - 1;
+    std::vector<std::jthread> helpers;
+    try {
+        while (helpers.size() < wanted)
+            helpers.emplace_back([&pieces] { pieces.runAll(); });
+    } catch (const std::system_error&) {
+        return helpers;
+    }
+    return helpers;
+}
+
 }  // namespace
 
 Progress partOf(const Progress& whole, double from, double to) {
@@ -84,12 +99,8 @@ void forEachPiece(std::size_t count, std::size_t pieceSize, const std::function<
     if (count == 0) return;
     Pieces pieces(count, pieceSize, work);
     {
-        std::vector<std::jthread> helpers;
-        const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-        const std::size_t wanted = std::min(cores, pieces.pieceCount()) - 1;
+        const std::vector<std::jthread> helpers = startHelpers(pieces);
         try {
-            for (std::size_t i = 0; i < wanted; ++i)
-                helpers.emplace_back([&pieces] { pieces.runAll(); });
             runWithProgress(pieces, progress);
         } catch (...) {
             pieces.stop();

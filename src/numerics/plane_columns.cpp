@@ -43,6 +43,14 @@ PlaneColumns::PlaneColumns(const ScatteredSurface& surface, PlaneMetric wanted) 
     }
 }
 
+double PlaneColumns::largestDistance(const Lattice& lattice) const {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    if (!std::isfinite(rangeX) || !std::isfinite(rangeY)) return infinity;
+    const double range = std::min(std::abs(rangeX), std::abs(rangeY));
+    const double largest = 2 * std::max({largestMagnitude(x), largestMagnitude(y), lattice.largest()});
+    return range == 0 ? infinity : largest / range;
+}
+
 void PlaneColumns::bringInto(NodeBlock& block) const {
     if (metric == PlaneMetric::Plain) return;
     for (double& x_ : block.x)
@@ -51,6 +59,11 @@ void PlaneColumns::bringInto(NodeBlock& block) const {
 
 PlaneMetric colourMetric(const ScatteredSurface& surface) {
     return surface.coordinates == SurfaceCoordinates::Cylindrical ? PlaneMetric::Normalised : PlaneMetric::Plain;
+}
+
+double largestDistance(const ScatteredVolume& volume, const Lattice& lattice) {
+    return 2 * std::max({largestMagnitude(volume.x), largestMagnitude(volume.y), largestMagnitude(volume.z),
+                         lattice.largest()});
 }
 
 double largestMagnitude(std::span<const double> column) {

@@ -3,8 +3,8 @@
 #include <span>
 #include <vector>
 
+#include "numerics/lattice.h"
 #include "numerics/scattered_points.h"
-#include "numerics/vector_kernels.h"
 
 namespace tessaplot::numerics {
 
@@ -18,6 +18,10 @@ enum class PlaneMetric {
 struct PlaneColumns {
     PlaneColumns(const ScatteredSurface& surface, PlaneMetric metric);
 
+    /// Largest magnitude that the points and the nodes of a lattice give to a distance along an axis, before it is
+    /// squared; infinity if a number is not finite or a range that is divided by is 0.
+    double largestDistance(const Lattice& lattice) const;
+
     /// Turns node positions, in degrees where coordinates are angles, into this plane.
     void bringInto(NodeBlock& block) const;
 
@@ -29,15 +33,18 @@ struct PlaneColumns {
 /// The metric in which colours are measured.
 PlaneMetric colourMetric(const ScatteredSurface& surface);
 
+/// As `PlaneColumns::largestDistance`, in three dimensions.
+double largestDistance(const ScatteredVolume& volume, const Lattice& lattice);
+
 /// The largest magnitude of a column, infinity if one of its numbers is not finite.
 double largestMagnitude(std::span<const double> column);
 
 /// True if all numbers are 0 or so far from both ends of the range that quotients by squared distances cannot leave it.
 bool hasModerateValues(std::span<const double> column);
 
-/// Up to this magnitude coordinates give squared distances that are finite.
-inline constexpr double safeCoordinate = 1e150;
-/// Up to this magnitude coordinates give squared distances that are moderate.
-inline constexpr double moderateCoordinate = 1e75;
+/// Up to this magnitude distances along the axes have squares whose sum is finite.
+inline constexpr double safeDistance = 1e150;
+/// Up to this magnitude the sum of their squares is moderate as well.
+inline constexpr double moderateDistance = 1e75;
 
 }  // namespace tessaplot::numerics

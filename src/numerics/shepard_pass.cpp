@@ -59,16 +59,10 @@ void sumAll(const PointColumns& points, Kernel kernel, const Lattice& lattice, c
     });
 }
 
-/// The largest magnitude that a difference in the plane can come from; infinity for a range of zero.
-double largestOf(const PlaneColumns& plane, const Lattice& lattice) {
-    const double largest = std::max({largestMagnitude(plane.x), largestMagnitude(plane.y), lattice.largest(), 1.0});
-    return largest / std::min({1.0, std::abs(plane.rangeX), std::abs(plane.rangeY)});
-}
-
 /// True if the kernels can serve. More points fail at the first node that hits none of those that count, and so does a
 /// distance out of range; the plain routine tells which.
 bool kernelsServe(std::size_t points, double largest) {
-    return points > 0 && points <= shepardLastIndex + 1 && largest <= safeCoordinate;
+    return points > 0 && points <= shepardLastIndex + 1 && largest <= safeDistance;
 }
 
 void plainColumn(const ScatteredSurface& surface, bool colour, const Lattice& lattice, const Progress& progress,
@@ -88,14 +82,14 @@ PointColumns columnsOf(const PlaneColumns& plane, double largest, std::span<cons
             .second = second.data(),
             .rangeX = plane.rangeX,
             .rangeY = plane.rangeY,
-            .moderate = largest <= moderateCoordinate && hasModerateValues(first) && hasModerateValues(second)};
+            .moderate = largest <= moderateDistance && hasModerateValues(first) && hasModerateValues(second)};
 }
 
 /// Heights, and colours too where these share the distances.
 void plainMetric(const ScatteredSurface& surface, bool withColours, const Lattice& lattice, const Progress& progress,
                  NodeValues& values) {
     const PlaneColumns plane(surface, PlaneMetric::Plain);
-    const double largest = largestOf(plane, lattice);
+    const double largest = plane.largestDistance(lattice);
     if (kernelsServe(plane.x.size(), largest)) {
         const std::span<const double> heights = heightColumn(surface);
         const PointColumns points = columnsOf(plane, largest, heights, withColours ? surface.c : heights);
@@ -110,7 +104,7 @@ void plainMetric(const ScatteredSurface& surface, bool withColours, const Lattic
 void normalisedColours(const ScatteredSurface& surface, const Lattice& lattice, const Progress& progress,
                        NodeValues& values) {
     const PlaneColumns plane(surface, PlaneMetric::Normalised);
-    const double largest = largestOf(plane, lattice);
+    const double largest = plane.largestDistance(lattice);
     if (!kernelsServe(plane.x.size(), largest)) return plainColumn(surface, true, lattice, progress, values.colour);
     const PointColumns points = columnsOf(plane, largest, surface.c, surface.c);
     sumAll(points, kernels().normalisedInverseSquares, lattice, progress, &plane, values.colour, nullptr);
@@ -126,15 +120,14 @@ void shepardPass(const ScatteredSurface& surface, const Lattice& lattice, const 
 }
 
 void shepardPass(const ScatteredVolume& volume, const Lattice& lattice, const Progress& progress, NodeValues& values) {
-    const double largest = std::max(
-        {largestMagnitude(volume.x), largestMagnitude(volume.y), largestMagnitude(volume.z), lattice.largest()});
+    const double largest = largestDistance(volume, lattice);
     if (kernelsServe(volume.x.size(), largest)) {
         const PointColumns points = {.count = volume.x.size(),
                                      .x = volume.x.data(),
                                      .y = volume.y.data(),
                                      .z = volume.z.data(),
                                      .first = volume.v.data(),
-                                     .moderate = largest <= moderateCoordinate && hasModerateValues(volume.v)};
+                                     .moderate = largest <= moderateDistance && hasModerateValues(volume.v)};
         sumAll(points, kernels().volumeInverseSquares, lattice, progress, nullptr, values.value, nullptr);
         return;
     }

@@ -20,8 +20,13 @@ constexpr int fastCompression = 12;
 
 constexpr int jpegQuality = 92;
 
-[[noreturn]] void fail(base::FailureCode code, const std::filesystem::path& path, const std::string& reason) {
-    throw base::Failure(code, path.string() + ": " + reason);
+std::string quoted(const std::filesystem::path& path) {
+    return '"' + path.string() + '"';
+}
+
+[[noreturn]] void failToWrite(const std::filesystem::path& path, const QString& reason) {
+    throw base::Failure(base::FailureCode::FileUnwritable,
+                        "The picture " + quoted(path) + " cannot be written: " + reason.toStdString() + '.');
 }
 
 QByteArray formatOf(const std::filesystem::path& path) {
@@ -29,7 +34,8 @@ QByteArray formatOf(const std::filesystem::path& path) {
     static constexpr std::array<const char*, 4> known{".png", ".bmp", ".jpg", ".jpeg"};
     for (const char* candidate : known)
         if (extension == candidate) return extension.mid(1);
-    fail(base::FailureCode::BadInput, path, "a picture file must end in .png, .bmp, .jpg or .jpeg.");
+    throw base::Failure(base::FailureCode::BadInput,
+                        "The name of the picture " + quoted(path) + " must end in .png, .bmp, .jpg or .jpeg.");
 }
 
 /// The pixels as an image that borrows them.
@@ -37,7 +43,8 @@ QImage imageOf(const std::filesystem::path& path, const Pixels& pixels) {
     const bool sensible = pixels.width > 0 && pixels.height > 0 && (pixels.channels == 3 || pixels.channels == 4);
     const std::int64_t rowBytes = std::int64_t{pixels.width} * pixels.channels;
     if (!sensible || static_cast<std::int64_t>(pixels.bytes.size()) != rowBytes * pixels.height)
-        fail(base::FailureCode::BadInput, path, "the pixels do not fill a picture of the stated size.");
+        throw base::Failure(base::FailureCode::BadInput,
+                            "The pixels of " + quoted(path) + " do not fill a picture of the stated size.");
     return {pixels.bytes.data(), pixels.width, pixels.height, static_cast<qsizetype>(rowBytes),
             pixels.channels == 3 ? QImage::Format_RGB888 : QImage::Format_RGBA8888};
 }
@@ -49,17 +56,15 @@ void writePicture(const std::filesystem::path& path, const Pixels& pixels) {
     const QImage image = imageOf(path, pixels);
 
     QSaveFile file(QFile::decodeName(path.c_str()));
-    if (!file.open(QIODevice::WriteOnly))
-        fail(base::FailureCode::FileUnwritable, path, file.errorString().toStdString());
+    if (!file.open(QIODevice::WriteOnly)) failToWrite(path, file.errorString());
 
     QImageWriter writer(&file, format);
     if (format == "png")
         writer.setCompression(fastCompression);
     else
         writer.setQuality(jpegQuality);
-    const bool written = writer.write(image);
-    if (!written) fail(base::FailureCode::FileUnwritable, path, writer.errorString().toStdString());
-    if (!file.commit()) fail(base::FailureCode::FileUnwritable, path, file.errorString().toStdString());
+    if (!writer.write(image)) failToWrite(path, writer.errorString());
+    if (!file.commit()) failToWrite(path, file.errorString());
 }
 
 }  // namespace tessaplot::pictures

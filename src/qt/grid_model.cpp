@@ -5,6 +5,15 @@
 
 namespace tessaplot::qt {
 
+namespace {
+
+/// The grid can be made larger than its store; what lies beyond shows nothing.
+bool isStored(const QModelIndex& index) {
+    return index.isValid() && index.row() < data::DataPanel::maximumRows && index.column() < data::DataPanel::columns;
+}
+
+}  // namespace
+
 GridModel::GridModel(data::DataPanel& panel, Guard guard, QObject* parent)
     : QAbstractTableModel(parent), panel_(panel), guard_(std::move(guard)) {
     sync();
@@ -22,7 +31,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
     std::string text;
-    if (!panel_.GetCellText(index.row() + 1, index.column() + 1, text)) return {};
+    if (!isStored(index) || !panel_.GetCellText(index.row() + 1, index.column() + 1, text)) return {};
     return QString::fromStdString(text);
 }
 
@@ -46,7 +55,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags plain = QAbstractTableModel::flags(index);
-    return index.isValid() && index.column() < data::DataPanel::columns ? plain | Qt::ItemIsEditable : plain;
+    return isStored(index) ? plain | Qt::ItemIsEditable : plain;
 }
 
 void GridModel::sync() {

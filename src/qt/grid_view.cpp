@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QStyledItemDelegate>
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -19,6 +20,7 @@ namespace {
 constexpr int indexColumnTwips = 800;
 constexpr int dataColumnTwips = 960;
 constexpr int twipsPerInch = 1440;
+constexpr int headerMargin = 12;
 
 bool isEnter(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -68,6 +70,8 @@ GridView::GridView(GridModel* model, QWidget* parent) : QTableView(parent) {
     nameIndexColumn();
     keepCurrentCell();
     connect(model, &GridModel::modelReset, this, &GridView::keepCurrentCell);
+    connect(model, &GridModel::modelReset, this, &GridView::widenIndexColumn);
+    connect(model, &GridModel::headerDataChanged, this, &GridView::widenIndexColumn);
 }
 
 void GridView::layOutHeaders() {
@@ -78,9 +82,18 @@ void GridView::layOutHeaders() {
     columns->setHighlightSections(true);
 
     QHeaderView* rows = verticalHeader();
-    rows->setFixedWidth(indexColumnTwips * logicalDpiX() / twipsPerInch);
     rows->setSectionResizeMode(QHeaderView::Fixed);
     rows->setDefaultSectionSize(fontMetrics().height() + 6);
+    widenIndexColumn();
+}
+
+/// The last row bears the longest index.
+void GridView::widenIndexColumn() {
+    QFont heavy = verticalHeader()->font();
+    heavy.setBold(true);
+    const QString last = model()->headerData(model()->rowCount() - 1, Qt::Vertical).toString();
+    const int needed = QFontMetrics(heavy).horizontalAdvance(last) + headerMargin;
+    verticalHeader()->setFixedWidth(std::max(indexColumnTwips * logicalDpiX() / twipsPerInch, needed));
 }
 
 /// The corner above the index column has no text of its own.
@@ -105,6 +118,11 @@ void GridView::move(CursorAction action) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+    // Tab stays in the grid, so something else must lead out of it.
+    if (event->key() == Qt::Key_Tab && event->modifiers().testFlag(Qt::ControlModifier)) {
+        QWidget::focusNextPrevChild(true);
+        return;
+    }
     if (!isEnter(event->key())) return QTableView::keyPressEvent(event);
     move(event->modifiers().testFlag(Qt::ShiftModifier) ? MoveUp : MoveDown);
 }

@@ -24,6 +24,7 @@ class GridView : public QTableView {
  private:
     void layOutHeaders();
     void nameIndexColumn();
+    void widenIndexColumn();
     void keepCurrentCell();
     void move(CursorAction action);
 };

@@ -25,9 +25,10 @@ namespace {
 
 constexpr QSize preferredSize(1180, 740);
 constexpr double largestShareOfScreen = 0.92;
-constexpr int panelWidth = 350;
+constexpr int panelWidth = 374;
 constexpr int panelShare = 3;  ///< Heights of panel and list are as 3 to 1.
 constexpr int listRowsAtLeast = 2;
+constexpr int statusIndent = 4;
 
 }  // namespace
 
@@ -102,6 +103,7 @@ void MainWindow::makeStatusBar() {
     statusBar()->setObjectName("StatusBar1");
     status_->setObjectName("StatusText");
     status_->setTextFormat(Qt::PlainText);
+    status_->setIndent(statusIndent);
     // A long message is cut, and told whole by its tool tip, rather than widening the window.
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(status_, 1);

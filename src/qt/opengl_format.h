@@ -6,11 +6,8 @@ namespace tessaplot::qt {
 /// with the others. To be called before the application object is made.
 void requestOpenGl();
 
-/// Why the current context cannot draw the picture; null if it can.
-const char* reasonAgainstCurrentContext();
-
-/// The same of the contexts that widgets will get. To be called with an application object, before such a widget is
-/// made: Qt does not survive a window with an OpenGL widget where there is no OpenGL.
-const char* reasonAgainstOpenGl();
+/// Throws Failure (OpenGl) if the contexts that widgets get cannot draw the picture. To be called with an application
+/// object, before such a widget is made: Qt does not survive a window with an OpenGL widget where there is no OpenGL.
+void requireOpenGl();
 
 }  // namespace tessaplot::qt

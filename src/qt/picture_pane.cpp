@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <utility>
 
+#include "base/failure.h"
 #include "qt/opengl_format.h"
 #include "qt/picture_widget.h"
 
@@ -22,10 +23,12 @@ PicturePane::PicturePane(core::AppState& state, QWidget* parent) : QStackedWidge
     notice_->setMargin(noticeMargin);
     notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     addWidget(notice_);
-    if (const char* reason = reasonAgainstOpenGl())
-        giveUp(reason);
-    else
+    try {
+        requireOpenGl();
         makeSurface(state);
+    } catch (const base::Failure& failure) {
+        giveUp(failure.what());
+    }
 }
 
 void PicturePane::makeSurface(core::AppState& state) {
@@ -44,7 +47,7 @@ void PicturePane::display() {
 }
 
 void PicturePane::giveUp(const QString& reason) {
-    notice_->setText(tr("There is no picture: %1.").arg(reason));
+    notice_->setText(tr("There is no picture.\n%1").arg(reason));
     setCurrentWidget(notice_);
     if (surface_ != nullptr) std::exchange(surface_, nullptr)->deleteLater();
 }

@@ -5,7 +5,6 @@
 
 #include "base/failure.h"
 #include "core/refresh.h"
-#include "qt/opengl_format.h"
 
 namespace tessaplot::qt {
 
@@ -22,10 +21,6 @@ PictureWidget::~PictureWidget() {
 /// Runs once for each context: all that is drawn is made again from the recorded operations.
 void PictureWidget::initializeGL() {
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &PictureWidget::releaseContext, Qt::UniqueConnection);
-    if (const char* reason = reasonAgainstCurrentContext()) {
-        emit refused(reason);
-        return;
-    }
     try {
         replay_ = std::make_unique<gl::Replay>();
     } catch (const base::Failure& failure) {

@@ -22,7 +22,7 @@ class PictureWidget : public QOpenGLWidget {
  signals:
     /// The surface has a new size, in physical pixels.
     void surfaceResized(int width, int height);
-    /// The context that the surface got cannot draw the picture.
+    /// The context that the surface got cannot draw the picture; the reason is a sentence.
     void refused(const QString& reason);
 
  protected:

@@ -1,0 +1,48 @@
+#include "gl/vertex_pool.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace tessaplot::gl {
+
+namespace {
+
+constexpr int slotBits = 16;
+
+std::size_t slotOf(const Vertex& vertex) {
+    static_assert(sizeof(Vertex) == 6 * sizeof(std::uint64_t));
+    std::array<std::uint64_t, 6> words;
+    std::memcpy(words.data(), &vertex, sizeof vertex);
+    std::uint64_t hash = 0;
+    for (const std::uint64_t word : words) {
+        hash = (hash ^ word) * 0x9e3779b97f4a7c15U;
+        hash ^= hash >> 32U;
+    }
+    return static_cast<std::size_t>(hash & ((1U << slotBits) - 1));
+}
+
+}  // namespace
+
+VertexPool::VertexPool() : slots_(std::size_t{1} << slotBits) {}
+
+std::uint16_t VertexPool::add(const Vertex& vertex) {
+    Slot& slot = slots_[slotOf(vertex)];
+    if (slot.generation == generation_ && std::memcmp(&vertices_[slot.vertex], &vertex, sizeof vertex) == 0)
+        return slot.vertex;
+    slot = {generation_, append(vertex)};
+    return slot.vertex;
+}
+
+std::uint16_t VertexPool::append(const Vertex& vertex) {
+    vertices_.push_back(vertex);
+    return static_cast<std::uint16_t>(vertices_.size() - 1);
+}
+
+void VertexPool::clear() {
+    vertices_.clear();
+    if (++generation_ != 0) return;
+    std::fill(slots_.begin(), slots_.end(), Slot{});
+    generation_ = 1;
+}
+
+}  // namespace tessaplot::gl

@@ -1,0 +1,176 @@
+#include "expr/evaluator.h"
+
+#include <bit>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "expr/evaluator_error.h"
+
+namespace tessaplot::expr {
+namespace {
+
+/// An evaluator with its context and the messages that it has shown.
+struct Bench {
+    EvaluatorContext context;
+    Cls6 evaluator{context};
+    std::vector<std::string> messages;
+    double result = -99;
+
+    Bench() {
+        context.report = [this](std::string_view title, std::string_view text) {
+            messages.push_back(std::string(title) + "|" + std::string(text));
+        };
+    }
+
+    bool evaluate(const std::string& postfix, bool degrees = false, double x = 0, double y = 0) {
+        return evaluator.DoEvaluate(postfix, degrees, result, 1, 2, x, y, 5, 6, 7, 8);
+    }
+
+    double value(const std::string& formula, bool degrees = false, double x = 0) {
+        std::string postfix;
+        std::int32_t position = -1;
+        EXPECT_TRUE(evaluator.InfixToPostfix(formula, postfix, position)) << formula;
+        EXPECT_TRUE(evaluate(postfix, degrees, x)) << formula;
+        return result;
+    }
+};
+
+bool isMarker(double value) {
+    return std::bit_cast<std::uint64_t>(value) == 0x3FBF9A6B50B0F27C;
+}
+
+TEST(Evaluator, evaluatesTheOddCasesOfItsNotation) {
+    Bench bench;
+    EXPECT_EQ(bench.value("-2^2"), -4);
+    EXPECT_EQ(bench.value("2^3^2"), 64);
+    EXPECT_EQ(bench.value("0^0"), 1);
+    EXPECT_EQ(bench.value("1,5+2."), 3);
+    EXPECT_EQ(bench.value("(-8)^3"), -512);
+    EXPECT_EQ(bench.value("asech(x)*2", false, 0.25), std::log((std::sqrt(1 - 0.25) + 1) / 0.5));
+    EXPECT_EQ(bench.value("U+10*V+100*A+1000*R+10000*B+100000*T"), 876521);
+    EXPECT_TRUE(bench.evaluate("1e5 2.5.1 + 0x1 +"));
+    EXPECT_EQ(bench.result, 3.5);
+}
+
+TEST(Evaluator, takesDegreesWithAShortPiInDirectFunctionsAndAtanOnly) {
+    Bench bench;
+    EXPECT_EQ(bench.value("SIN(X)", true, 90), std::sin(90 * 3.1416 / 180));
+    EXPECT_EQ(bench.value("ATAN(X)", true, 45), std::atan(45 * 3.1416 / 180));
+    EXPECT_EQ(bench.value("SINH(X)+ASIN(X)", true, 1), (std::exp(1) - std::exp(-1)) / 2 + 3.1416 / 2);
+    EXPECT_EQ(bench.value("SIN(30)", true), std::sin(30 * 3.1416 / 180));
+    EXPECT_EQ(bench.value("SIN(30)", false), std::sin(30.0));
+}
+
+TEST(Evaluator, failuresGiveTheUndefinedMarkerUnlessTheyAreToBeShown) {
+    const std::pair<const char*, const char*> failures[] = {
+        {"1/0", "Error|Devision by zero."},
+        {"CTAN(0)", "Error|Devision by zero."},
+        {"ASIN(2)", "Error|The expression is illegal."},
+        {"ASEC(-1)", "Error|The expression is illegal."},
+        {"SQR(X-1)", "Error|The parameter of function SQR must larger than or equal to 0."},
+        {"LOG(0)", "Error|The parameter of function LOG must larger than 0."},
+        {"(-8)^(1/3)", "Error|A^B, B must be a long if A is negative."},
+        {"ATANH(1)", nullptr},
+        {"CSECH(X)", nullptr},
+    };
+    for (const auto& [formula, message] : failures) {
+        Bench bench;
+        EXPECT_TRUE(isMarker(bench.value(formula))) << formula;
+        EXPECT_TRUE(bench.messages.empty()) << formula;
+
+        bench.context.ShowEvalErrors = true;
+        std::string postfix;
+        std::int32_t position = -1;
+        bench.evaluator.InfixToPostfix(formula, postfix, position);
+        bench.result = -99;
+        EXPECT_EQ(bench.evaluate(postfix), message == nullptr) << formula;
+        if (message) {
+            EXPECT_EQ(bench.messages, std::vector<std::string>{message});
+            EXPECT_EQ(bench.result, -99);
+        } else {
+            EXPECT_TRUE(isMarker(bench.result) && bench.messages.empty()) << formula;
+        }
+    }
+}
+
+TEST(Evaluator, refusesWhatIsNoPostfixTextButNotBeforeItGetsThere) {
+    Bench bench;
+    EXPECT_FALSE(bench.evaluate(""));
+    EXPECT_EQ(bench.result, -99);
+    const auto failureOf = [&](const std::string& postfix) -> std::string {
+        try {
+            bench.evaluate(postfix);
+            return "none";
+        } catch (const EvaluatorError& error) {
+            return std::to_string(error.number() & 0xFFFFU) + " " + error.what();
+        } catch (const base::Failure& failure) {
+            return failure.code() == base::FailureCode::Overflow ? "overflow" : failure.what();
+        }
+    };
+    EXPECT_EQ(failureOf("1 sin "), "1002 Bad token in Evaluate: sin");
+    EXPECT_EQ(failureOf("1  2 "), "1002 Bad token in Evaluate: ");
+    EXPECT_EQ(failureOf("1 + "), "1011 Pop method invoked on empty stack");
+    EXPECT_EQ(failureOf(std::string(400, '9') + " "), "overflow");
+    EXPECT_EQ(bench.result, -99);
+    EXPECT_EQ(failureOf("1 0 / ) "), "none");
+    EXPECT_TRUE(isMarker(bench.result));
+}
+
+TEST(Evaluator, followsTheTextAndTheVariablesOfEachCall) {
+    Bench bench;
+    const std::vector<std::string> formulas = {"XX 1 + ", "XX 2 + ", "XX 3 * ", "XX (-) ", "XX ABS ", "YY "};
+    for (int round = 0; round < 3; ++round)
+        for (const double x : {-2.0, 0.5})
+            for (const std::string& formula : formulas) {
+                const double expected[] = {x + 1, x + 2, x * 3, -x, std::fabs(x), 9};
+                EXPECT_TRUE(bench.evaluate(formula, false, x, 9));
+                EXPECT_EQ(bench.result, expected[&formula - formulas.data()]) << formula;
+            }
+    std::string changing = "XX 1 + ";
+    bench.evaluate(changing);
+    changing[3] = '4';
+    bench.evaluate(changing);
+    EXPECT_EQ(bench.result, 4);
+    // The result may go to a variable of the same call.
+    double x = 3;
+    EXPECT_TRUE(bench.evaluator.DoEvaluate("XX XX * XX +", false, x, 0, 0, x, 0, 0, 0, 0, 0));
+    EXPECT_EQ(x, 12);
+}
+
+TEST(Evaluator, drawsRandomNumbersFromOneSequence) {
+    Bench bench;
+    Cls6 other(bench.context);
+    RandomSequence same;
+    double sum = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const float first = same.next();
+        const float second = same.next();
+        EXPECT_EQ(bench.value("RND(5)-RND(5)"), static_cast<double>(first) - static_cast<double>(second));
+        double third = 0;
+        EXPECT_TRUE(other.DoEvaluate("0 RND ", false, third, 0, 0, 0, 0, 0, 0, 0, 0));
+        EXPECT_EQ(third, static_cast<double>(same.next()));
+        EXPECT_TRUE(third >= 0 && third < 1);
+        sum += third;
+    }
+    EXPECT_NEAR(sum / 1000, 0.5, 0.05);
+}
+
+TEST(Evaluator, evaluatesHugeFormulas) {
+    Bench bench;
+    std::string formula = "X";
+    while (formula.size() < (1 << 20))
+        formula += "+X/X";
+    EXPECT_EQ(bench.value(formula, false, 3), 3 + static_cast<double>(formula.size() / 4));
+    std::string distinct = "X";
+    for (int i = 0; distinct.size() < (1 << 20); ++i)
+        distinct += "+X*" + std::to_string(i);
+    EXPECT_GT(bench.value(distinct, false, 1), 1e9);
+    EXPECT_THROW(bench.value(std::string(1 << 20, '7')), base::Failure);
+    EXPECT_EQ(bench.value("0." + std::string(1 << 20, '3')), 1 / 3.0);
+}
+
+}  // namespace
+}  // namespace tessaplot::expr

@@ -1,0 +1,141 @@
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <chrono>
+
+#include "qt/window_test.h"
+#include "ui/menu_table.h"
+
+namespace tessaplot::qt {
+namespace {
+
+using MainWindowTest = WindowTest;
+using platform::Answer;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST_F(MainWindowTest, startsWithoutOpenGlAndSaysSoInThePicturesPlace) {
+    EXPECT_THAT(asked, ElementsAre("ChoosePixelFormat failed"));
+    EXPECT_EQ(window.windowTitle(), "Tessaplot");
+    bool told = false;
+    for (const QLabel* label : window.findChildren<QLabel*>())
+        told = told || (label->isVisible() && label->text().startsWith("There is no picture"));
+    EXPECT_TRUE(told);
+    choose("mnuViewTop");
+    EXPECT_EQ(state.ShownGraphs.RotPitch, -90);
+}
+
+TEST_F(MainWindowTest, everyMenuEntryIsAnActionOfItsNameWithHintAndShortcut) {
+    for (const ui::MenuEntry& entry : ui::menuBar()) {
+        if (entry.hint.empty()) continue;
+        const auto* action = find<QAction>(std::string(entry.name).c_str());
+        EXPECT_EQ(action->statusTip().toStdString(), entry.hint);
+        EXPECT_EQ(action->shortcut().toString(QKeySequence::PortableText).toStdString(), entry.shortcut);
+    }
+    EXPECT_TRUE(find<QAction>("mnuViewISO")->isEnabled());
+    choose("mnuFileNew2D");
+    EXPECT_FALSE(find<QAction>("mnuViewISO")->isEnabled());
+}
+
+TEST_F(MainWindowTest, theListTicksByKeyboardAndMirrorsTheLogic) {
+    addGraph();
+    addGraph();
+    auto* list = find<QListView>("List1");
+    ASSERT_EQ(list->model()->rowCount(), 2);
+    list->setFocus();
+    list->setCurrentIndex(list->model()->index(1, 0));
+    EXPECT_EQ(state.List1.selected, 1);
+    QTest::keyClick(list, Qt::Key_Space);
+    ASSERT_EQ(state.ShownGraphs.Graphs.size(), 1U);
+    EXPECT_EQ(state.ShownGraphs.Graphs[0], state.AllGraphs.Graphs[1]);
+    EXPECT_EQ(list->model()->index(1, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
+
+    core::DeleteGraph(state, 1);
+    state.List1.selected = 0;
+    window.sync();
+    EXPECT_EQ(list->model()->rowCount(), 1);
+    EXPECT_EQ(list->currentIndex().row(), 0);
+    EXPECT_EQ(list->model()->index(0, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
+}
+
+TEST_F(MainWindowTest, aGraphThatCannotBeDrawnIsToldAndStaysUnticked) {
+    addGraph();
+    state.AllGraphs.Graphs[0]->StepU = 7;
+    asked.clear();
+    auto* list = find<QListView>("List1");
+    list->setCurrentIndex(list->model()->index(0, 0));
+    QTest::keyClick(list, Qt::Key_Space);
+    EXPECT_EQ(asked.size(), 1U);
+    EXPECT_EQ(list->model()->index(0, 0).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
+}
+
+TEST_F(MainWindowTest, savesAndOpensByItsMenu) {
+    addGraph();
+    file = folder / "with blank.tsp";
+    window.findChild<QListView*>("List1")->model()->setData(window.findChild<QListView*>("List1")->model()->index(0, 0),
+                                                            Qt::Checked, Qt::CheckStateRole);
+    choose("mnuFileSave");
+    EXPECT_THAT(find<QLabel>("StatusText")->text().toStdString(), HasSubstr("with blank.tsp"));
+    answers = {Answer::No};
+    choose("mnuFileNew3D");
+    EXPECT_EQ(find<QListView>("List1")->model()->rowCount(), 0);
+    EXPECT_EQ(find<QLabel>("StatusText")->text(), "Ready");
+    state.panel.setText(1, "");
+    choose("mnuFileOpen");
+    EXPECT_EQ(find<QListView>("List1")->model()->rowCount(), 1);
+    EXPECT_EQ(find<QLineEdit>("Text1")->text(), "3");
+}
+
+TEST_F(MainWindowTest, aLongCommandShowsProgressTakesNoOtherAndCanBeStopped) {
+    auto* progress = find<QWidget>("Progress");
+    int turns = 0;
+    int reports = 0;
+    bool stopped = false;
+    state.desktop.display = [&] {
+        ++turns;
+        const auto begun = std::chrono::steady_clock::now();
+        const auto age = [&] { return std::chrono::steady_clock::now() - begun; };
+        while (!stopped && age() < std::chrono::seconds(20)) {
+            ++reports;
+            stopped = !state.desktop.reportProgress(0.5);
+            if (age() < std::chrono::milliseconds(400)) {
+                EXPECT_FALSE(progress->isVisible());
+            }
+        }
+    };
+    QTimer whenShown;
+    QObject::connect(&whenShown, &QTimer::timeout, [&] {
+        if (!progress->isVisible()) return;
+        whenShown.stop();
+        EXPECT_FALSE(window.menuBar()->isEnabled());
+        EXPECT_FALSE(find<QLineEdit>("Text1")->isEnabled());
+        choose("mnuViewTop");
+        window.close();
+        EXPECT_TRUE(window.isVisible()) << "closing waits for the command";
+        QTest::mouseClick(find<QPushButton>("CancelRun"), Qt::LeftButton);
+    });
+    whenShown.start(20);
+    choose("mnuViewFront");
+    EXPECT_TRUE(stopped);
+    EXPECT_EQ(turns, 1);
+    EXPECT_EQ(state.ShownGraphs.RotPitch, 0) << "the other command was dropped";
+    EXPECT_FALSE(progress->isVisible());
+    EXPECT_TRUE(window.menuBar()->isEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }));
+}
+
+TEST_F(MainWindowTest, closingOffersToSaveAndExitCloses) {
+    addGraph();
+    asked.clear();
+    answers = {Answer::Yes};
+    file = folder / "end.tsp";
+    choose("mnuFileExit");
+    EXPECT_THAT(asked, ElementsAre("Do you want to save the graphs?"));
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(std::filesystem::exists(file));
+}
+
+}  // namespace
+}  // namespace tessaplot::qt
