@@ -14,19 +14,19 @@
 
 namespace tessaplot::bench {
 
-#ifdef TESSAPLOT_PEERBENCH_W8
-std::unique_ptr<Work> makeW8();
-#endif
+// What the build found besides W1 to W4: WORKLOAD(5) WORKLOAD(8) ...
+#define WORKLOAD(number) std::unique_ptr<Work> makeW##number();
+TESSAPLOT_FURTHER_WORKLOADS
+#undef WORKLOAD
 
 namespace {
 
 std::unique_ptr<Work> makeWork(const std::string& name) {
-    const std::map<std::string, std::unique_ptr<Work> (*)()> makers = {
-        {"W1", makeW1}, {"W2", makeW2}, {"W3", makeW3}, {"W4", makeW4},
-#ifdef TESSAPLOT_PEERBENCH_W8
-        {"W8", makeW8},
-#endif
-    };
+    std::map<std::string, std::unique_ptr<Work> (*)()> makers = {
+        {"W1", makeW1}, {"W2", makeW2}, {"W3", makeW3}, {"W4", makeW4}};
+#define WORKLOAD(number) makers["W" #number] = makeW##number;
+    TESSAPLOT_FURTHER_WORKLOADS
+#undef WORKLOAD
     const auto found = makers.find(name);
     return found == makers.end() ? nullptr : found->second();
 }

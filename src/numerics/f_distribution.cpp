@@ -50,8 +50,10 @@ double inverseIncompleteBeta(double p, double a, double b) {
 double logGamma(double x) {
     // Stirling's series after a shift to where five terms give full precision.
     double shift = 0;
-    for (; x < 15; x += 1)
-        shift += std::log(x);
+    const int steps = x < 15 ? static_cast<int>(std::ceil(15 - x)) : 0;
+    for (int i = 0; i < steps; ++i)
+        shift += std::log(x + i);
+    x += steps;
     const double halfLogTwoPi = 0.91893853320467274178;
     const double inverse = 1 / x;
     const double square = inverse * inverse;

@@ -65,6 +65,7 @@ TEST_F(LoadDocumentTest, aDocumentThatCannotBeReadLeavesTheOpenOne) {
 }
 
 TEST_F(LoadDocumentTest, dataThatCannotBeScaledLeaveTheGraphsListedAndUnticked) {
+    showGridModel(state);
     AppState other;
     fillPanel(other.panel, data::DataKind::RegularSurface);
     addGraph(other, graphs::graph_type::gridModel);
@@ -79,6 +80,7 @@ TEST_F(LoadDocumentTest, dataThatCannotBeScaledLeaveTheGraphsListedAndUnticked) 
     ASSERT_EQ(state.List1.entries.size(), 1U);
     EXPECT_FALSE(state.List1.entries[0].ticked);
     EXPECT_TRUE(state.ShownGraphs.empty());
+    EXPECT_EQ(state.TheData.StepsX, 0) << "nothing is left to draw a wrong picture from";
     EXPECT_NO_THROW(RebuildScene(state));
 }
 
