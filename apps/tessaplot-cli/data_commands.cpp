@@ -47,8 +47,8 @@ std::array<double, variableNames.size()> variableValues(const std::vector<std::s
 void importData(const std::filesystem::path& text, const std::filesystem::path& document) {
     data::DataPanel panel;
     if (!data::importText(panel, data::readTextFile(text)))
-        throw Failure(FailureCode::BadInput, "The file \"" + text.string() +
-                                                 "\" does not begin with a tag such as R3, I3, R4 or I4.");
+        throw Failure(FailureCode::BadInput,
+                      "The file \"" + text.string() + "\" does not begin with a tag such as R3, I3, R4 or I4.");
     scene::Cls3 axis;
     axis.SetDefault();
     const int mode = data::isVolume(panel.kind()) ? scene::mode4D : scene::mode3D;
@@ -65,7 +65,8 @@ void gridData(const std::filesystem::path& document, const std::filesystem::path
     core::Document opened = readKnownDocument(document);
     requireGoodData(opened.panel);
     data::GriddingChoice gridding = opened.gridding.value_or(data::GriddingChoice{});
-    if (method) (data::isVolume(opened.panel.kind()) ? gridding.VolumeGridMethod : gridding.SurfaceGridMethod) = *method;
+    if (method)
+        (data::isVolume(opened.panel.kind()) ? gridding.VolumeGridMethod : gridding.SurfaceGridMethod) = *method;
     data::writeTextFile(text, data::exportGriddedText(opened.panel, gridding, {}));
 }
 

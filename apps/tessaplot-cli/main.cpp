@@ -1,9 +1,10 @@
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <exception>
 #include <new>
 #include <optional>
 #include <string>
+
+#include <CLI/CLI.hpp>
 
 #include "commands.h"
 #include "data_commands.h"
@@ -23,8 +24,7 @@ std::string parseSize(const std::string& text, cli::RenderOptions& options) {
     int used = 0;
     const bool read = std::sscanf(text.c_str(), "%5dx%5d%n", &options.width, &options.height, &used) == 2 &&
                       used == static_cast<int>(text.size());
-    if (!read || options.width < 1 || options.height < 1 || options.width > largestSide ||
-        options.height > largestSide)
+    if (!read || options.width < 1 || options.height < 1 || options.width > largestSide || options.height > largestSide)
         return "the size must read WxH, each from 1 to " + std::to_string(largestSide);
     return {};
 }
@@ -35,7 +35,8 @@ void addRender(CLI::App& app, cli::RenderOptions& options) {
     command->add_option("DOC", options.document, "The document")->required();
     command->add_option("OUT", options.picture, "The picture; its extension tells the format")->required();
     command
-        ->add_option_function<std::string>("--size", [](const std::string&) {}, "Width and height in pixels")
+        ->add_option_function<std::string>(
+            "--size", [](const std::string&) {}, "Width and height in pixels")
         ->default_str("1000x800")
         ->type_name("WxH")
         ->check([&options](const std::string& text) { return parseSize(text, options); });
@@ -121,8 +122,9 @@ int main(int argc, char** argv) {
     addRender(app, renderOptions);
     addTrace(app, traceOptions);
     addInfo(app, infoDocument);
-    addFileCommand(app, "convert", "Write a document of any generation in the newest one", files)
-        ->callback([&files] { cli::convert(files.from, files.to); });
+    addFileCommand(app, "convert", "Write a document of any generation in the newest one", files)->callback([&files] {
+        cli::convert(files.from, files.to);
+    });
     addFileCommand(app, "import", "Make a document of a text of numbers", files)->callback([&files] {
         cli::importData(files.from, files.to);
     });

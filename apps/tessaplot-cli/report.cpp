@@ -11,10 +11,14 @@ namespace {
 
 std::string_view modeName(int sceneMode) {
     switch (sceneMode) {
-        case scene::mode2D: return "2D";
-        case scene::mode3D: return "3D";
-        case scene::mode4D: return "4D";
-        default: return "unknown";
+        case scene::mode2D:
+            return "2D";
+        case scene::mode3D:
+            return "3D";
+        case scene::mode4D:
+            return "4D";
+        default:
+            return "unknown";
     }
 }
 

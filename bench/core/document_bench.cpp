@@ -1,6 +1,3 @@
-#include <benchmark/benchmark.h>
-#include <malloc.h>
-
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
@@ -8,6 +5,9 @@
 #include <iterator>
 #include <memory>
 #include <string>
+
+#include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include "base/number_text.h"
 #include "core/app_state.h"
@@ -91,8 +91,8 @@ void memoryOfAnOpenDocument(benchmark::State& run) {
         state.TheData.GetData(state.panel, state.scaling, state.gridding, state.desktop);
         document.reset();
         const auto after = mallinfo2();
-        const auto used = static_cast<double>(after.uordblks + after.hblkhd) -
-                          static_cast<double>(before.uordblks + before.hblkhd);
+        const auto used =
+            static_cast<double>(after.uordblks + after.hblkhd) - static_cast<double>(before.uordblks + before.hblkhd);
         bytesPerRow = used / (side * side);
     }
     run.counters["bytes_per_row"] = bytesPerRow;
@@ -103,7 +103,8 @@ void savingADocument(benchmark::State& run) {
     AppState state;
     auto document = readDocument(readDocumentFile(exampleDocument()));
     state.panel = std::move(document->panel);
-    for (auto _ : run) benchmark::DoNotOptimize(documentText(partsOf(state, state.ShownGraphs)));
+    for (auto _ : run)
+        benchmark::DoNotOptimize(documentText(partsOf(state, state.ShownGraphs)));
 }
 BENCHMARK(savingADocument)->Unit(benchmark::kMillisecond);
 

@@ -42,7 +42,8 @@ class TextTable : public Work {
         const std::chrono::duration<double, std::milli> spent = std::chrono::steady_clock::now() - start;
         double sum = 0;
         for (int row = 1; row < panel.gridRows(); ++row)
-            for (int column = 1; column <= 4; ++column) sum += base::TextValue(panel.cell(column, row));
+            for (int column = 1; column <= 4; ++column)
+                sum += base::TextValue(panel.cell(column, row));
         char text[80];
         std::snprintf(text, sizeof text, "%dx4, sum %.4f", panel.gridRows() - 1, sum);
         check = text;

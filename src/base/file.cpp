@@ -1,15 +1,15 @@
 #include "base/file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <string>
 #include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "base/failure.h"
 
@@ -104,8 +104,7 @@ std::string readFile(const fs::path& path) {
     if (!file) failUnreadable(path, systemReason());
     const std::uintmax_t size = fs::file_size(path, error);
     if (error) failUnreadable(path, error.message());
-    if (size > largestFile)
-        failUnreadable(path, "it is larger than " + std::to_string(largestFile >> 20U) + " MiB");
+    if (size > largestFile) failUnreadable(path, "it is larger than " + std::to_string(largestFile >> 20U) + " MiB");
     std::string bytes(size, '\0');
     file.read(bytes.data(), static_cast<std::streamsize>(size));
     bytes.resize(static_cast<std::size_t>(file.gcount()));

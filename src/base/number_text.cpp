@@ -17,7 +17,8 @@ bool isDigit(char c) {
 }
 
 const char* skipDigits(const char* at, const char* end) {
-    while (at != end && isDigit(*at)) ++at;
+    while (at != end && isDigit(*at))
+        ++at;
     return at;
 }
 

@@ -22,13 +22,14 @@ struct Document {
     data::DataPanel panel;
     std::vector<graphs::Cls9> graphs;
     scene::Cls3 axis;
-    std::optional<data::Scaling> scaling;  ///< Generation 4 only; the factors are not set.
+    std::optional<data::Scaling> scaling;          ///< Generation 4 only; the factors are not set.
     std::optional<data::GriddingChoice> gridding;  ///< As the last graph record has it.
 };
 
 inline constexpr int tokenTableSize = 500000;
 
-/// The text of a document file; empty for an empty file. Throws FileUnreadable, or BadInput if the bytes are not a document.
+/// The text of a document file; empty for an empty file. Throws FileUnreadable, or BadInput if the bytes are not a
+/// document.
 std::string readDocumentFile(const std::filesystem::path& path);
 
 /// Writes the text at the start of the file: beside it first, then renamed over it; a longer old file keeps its tail.

@@ -17,12 +17,14 @@ constexpr std::size_t longHeader = 8;
 constexpr std::uint16_t longMark = 0xFFFF;
 std::uint32_t littleEndian(std::string_view bytes, std::size_t at, std::size_t size) {
     std::uint32_t value = 0;
-    for (std::size_t i = size; i-- > 0;) value = value << 8U | static_cast<unsigned char>(bytes[at + i]);
+    for (std::size_t i = size; i-- > 0;)
+        value = value << 8U | static_cast<unsigned char>(bytes[at + i]);
     return value;
 }
 
 void appendLittleEndian(std::string& bytes, std::uint32_t value, std::size_t size) {
-    for (std::size_t i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFFU);
+    for (std::size_t i = 0; i < size; ++i)
+        bytes += static_cast<char>(value >> (8 * i) & 0xFFU);
 }
 
 std::string containerOf(std::string_view text) {
@@ -52,7 +54,8 @@ std::string readDocumentFile(const std::filesystem::path& path) {
     const std::string bytes = base::readFile(path);
     if (bytes.empty()) return {};
     if (bytes.size() < shortHeader || littleEndian(bytes, 0, 2) != textType)
-        throw base::Failure(base::FailureCode::BadInput, "The file \"" + path.string() + "\" is not a document of this program.");
+        throw base::Failure(base::FailureCode::BadInput,
+                            "The file \"" + path.string() + "\" is not a document of this program.");
     std::size_t start = shortHeader;
     std::size_t length = littleEndian(bytes, 2, 2);
     if (length == longMark && bytes.size() >= longHeader) {

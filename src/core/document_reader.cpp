@@ -52,12 +52,14 @@ int rowTokens(data::DataKind kind, int generation) {
 
 void readData(TokenReader& in, int generation, data::DataPanel& panel) {
     panel.selectKind(kindOf(in.token()));
-    for (const int box : dataFieldsOf(panel.kind()).boxes) panel.setText(box, std::string(in.token()));
+    for (const int box : dataFieldsOf(panel.kind()).boxes)
+        panel.setText(box, std::string(in.token()));
     panel.layOut();
     const int tokens = rowTokens(panel.kind(), generation);
     panel.reserveRows(panel.gridRows() - 1);
     for (int row = 1; row < panel.gridRows(); ++row)
-        for (int column = 1; column <= tokens; ++column) panel.setCell(column, row, std::string(in.token()));
+        for (int column = 1; column <= tokens; ++column)
+            panel.setCell(column, row, std::string(in.token()));
 }
 
 void readGraphs(TokenReader& in, int count, Document& document) {

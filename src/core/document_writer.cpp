@@ -47,10 +47,14 @@ class TokenWriter {
 
 std::string_view tagOf(int sceneMode) {
     switch (sceneMode) {
-        case scene::mode3D: return "D41";
-        case scene::mode2D: return "D42";
-        case scene::mode4D: return "D43";
-        default: return "";
+        case scene::mode3D:
+            return "D41";
+        case scene::mode2D:
+            return "D42";
+        case scene::mode4D:
+            return "D43";
+        default:
+            return "";
     }
 }
 
@@ -114,8 +118,8 @@ void writeColorMap(TokenWriter& out, const graphs::Cls9& graph) {
 }
 
 void writeModelAndPlotStyle(TokenWriter& out, const graphs::Cls9& graph) {
-    out.integers(graph.LineColor, graph.LineWidth, graph.FillStyle, graph.FirstColor, graph.SecondColor,
-                 graph.Material, graph.Show, graph.Smoothness, graph.StepU, graph.StepV, graph.PointColor);
+    out.integers(graph.LineColor, graph.LineWidth, graph.FillStyle, graph.FirstColor, graph.SecondColor, graph.Material,
+                 graph.Show, graph.Smoothness, graph.StepU, graph.StepV, graph.PointColor);
     out.number(graph.PointSize);
     out.booleans(graph.ShowColormap, graph.ShowContour);
     if (graph.ShowContour) out.rawNumber(graph.ContourLevel);
@@ -134,7 +138,8 @@ void writeGraph(TokenWriter& out, const graphs::Cls9& graph, const data::Griddin
     out.integers(graph.GraphType, graph.ID);
     out.string(graph.NameS);
     writeModelAndPlotStyle(out, graph);
-    for (const graphs::SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ}) writeSlices(out, *slices);
+    for (const graphs::SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ})
+        writeSlices(out, *slices);
     writeSurfaceStyle(out, graph);
     writeColorMap(out, graph);
     for (const graphs::SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ})
@@ -147,7 +152,8 @@ void writeAxis(TokenWriter& out, const scene::Cls3& axis) {
     out.booleans(axis.Show, axis.ShowXYPanel, axis.ShowXZPanel, axis.ShowYZPanel, axis.ShowXYXGrid, axis.ShowXYYGrid,
                  axis.ShowXZXGrid, axis.ShowXZZGrid, axis.ShowYZYGrid, axis.ShowYZZGrid);
     out.integers(axis.LabelNumX, axis.LabelNumY, axis.LabelNumZ);
-    for (const std::string* title : {&axis.TitleX, &axis.TitleY, &axis.TitleZ}) out.string(*title);
+    for (const std::string* title : {&axis.TitleX, &axis.TitleY, &axis.TitleZ})
+        out.string(*title);
     out.integers(axis.XYPanelColor, axis.XZPanelColor, axis.YZPanelColor, axis.XYGridColor, axis.XZGridColor,
                  axis.YZGridColor, axis.XYPanelMaterial, axis.XZPanelMaterial, axis.YZPanelMaterial, axis.AxisColor,
                  axis.AxisWidth);
@@ -164,7 +170,8 @@ void writeScaling(TokenWriter& out, const data::Scaling& scaling) {
 
 DocumentParts partsOf(const AppState& state, const Cls8& group) {
     DocumentParts parts{state.scene.SceneMode, state.panel, {}, state.TheAxis, state.scaling, state.gridding};
-    for (const GraphPtr& graph : group.Graphs) parts.graphs.push_back(graph.get());
+    for (const GraphPtr& graph : group.Graphs)
+        parts.graphs.push_back(graph.get());
     return parts;
 }
 
@@ -175,7 +182,8 @@ std::string documentText(const DocumentParts& parts) {
     out.token(tagOf(parts.SceneMode));
     out.integer(static_cast<int>(parts.graphs.size()));
     writeData(out, parts.panel);
-    for (const graphs::Cls9* graph : parts.graphs) writeGraph(out, *graph, parts.gridding);
+    for (const graphs::Cls9* graph : parts.graphs)
+        writeGraph(out, *graph, parts.gridding);
     writeAxis(out, parts.axis);
     writeScaling(out, parts.scaling);
     std::string text = out.take();

@@ -60,7 +60,8 @@ void readModelAndPlotStyle(TokenReader& in, graphs::Cls9& graph) {
 
 void readVolumeAndTextureStyle(TokenReader& in, graphs::Cls9& graph) {
     readIntegers(in, graph.Scat4DColor, graph.Vect4DColor);
-    for (graphs::SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ}) readSlices(in, *slices);
+    for (graphs::SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ})
+        readSlices(in, *slices);
     graph.ShowTex = in.strictBoolean();
     graph.TexMode = in.integer();
     graph.ShowTrans = in.strictBoolean();
@@ -81,7 +82,8 @@ void readColorMapAndLimits(TokenReader& in, graphs::Cls9& graph) {
         graph.ColorPos(i) = in.number();
         readIntegers(in, graph.ColorR(i), graph.ColorG(i), graph.ColorB(i));
     }
-    for (graphs::SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ}) readSliceLimits(in, *slices);
+    for (graphs::SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ})
+        readSliceLimits(in, *slices);
 }
 
 }  // namespace
@@ -103,9 +105,9 @@ std::string_view TokenReader::peek(std::size_t ahead) const {
     const std::size_t place = at_ + ahead;
     if (place < tokens_.size()) return tokens_[place];
     if (place >= slots_)
-        throw base::Failure(base::FailureCode::SubscriptOutOfRange,
-                            "The document asks for more than the " + std::to_string(slots_) +
-                                " tokens that a document can have.");
+        throw base::Failure(
+            base::FailureCode::SubscriptOutOfRange,
+            "The document asks for more than the " + std::to_string(slots_) + " tokens that a document can have.");
     return {};
 }
 
@@ -173,7 +175,8 @@ void readAxisRecord(TokenReader& in, scene::Cls3& axis) {
     readBooleans(in, axis.Show, axis.ShowXYPanel, axis.ShowXZPanel, axis.ShowYZPanel, axis.ShowXYXGrid,
                  axis.ShowXYYGrid, axis.ShowXZXGrid, axis.ShowXZZGrid, axis.ShowYZYGrid, axis.ShowYZZGrid);
     readIntegers(in, axis.LabelNumX, axis.LabelNumY, axis.LabelNumZ);
-    for (std::string* title : {&axis.TitleX, &axis.TitleY, &axis.TitleZ}) in.string(*title);
+    for (std::string* title : {&axis.TitleX, &axis.TitleY, &axis.TitleZ})
+        in.string(*title);
     readIntegers(in, axis.XYPanelColor, axis.XZPanelColor, axis.YZPanelColor, axis.XYGridColor, axis.XZGridColor,
                  axis.YZGridColor, axis.XYPanelMaterial, axis.XZPanelMaterial, axis.YZPanelMaterial, axis.AxisColor,
                  axis.AxisWidth);

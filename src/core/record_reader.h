@@ -15,8 +15,8 @@ namespace tessaplot::core {
 /// far as the table's slots go.
 class TokenReader {
  public:
-    /// Splits `text` at every single blank. `text` must outlive the reader. Throws SubscriptOutOfRange for more tokens than
-    /// `slots`.
+    /// Splits `text` at every single blank. `text` must outlive the reader. Throws SubscriptOutOfRange for more tokens
+    /// than `slots`.
     TokenReader(std::string_view text, std::size_t slots);
 
     /// The token at the place plus `ahead`. Throws SubscriptOutOfRange past the last slot.

@@ -51,7 +51,8 @@ std::string toFileBytes(std::string_view utf8) {
 std::string fromFileBytes(std::string_view bytes) {
     if (isPlainAscii(bytes) || isUtf8(bytes)) return std::string(bytes);
     std::string utf8;
-    for (const char c : bytes) appendUtf8(utf8, base::windows1252Character(static_cast<unsigned char>(c)));
+    for (const char c : bytes)
+        appendUtf8(utf8, base::windows1252Character(static_cast<unsigned char>(c)));
     return utf8;
 }
 

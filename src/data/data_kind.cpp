@@ -8,9 +8,9 @@ using Headers = std::array<std::string_view, 4>;
 using Labels = std::array<std::string_view, 10>;
 
 constexpr std::array<std::string_view, dataKindCount> captions{
-    "Regular Surface (Cartesian)",   "Irregular Surface (Cartesian)",   "Regular Volume (Cartesian)",
-    "Irregular Volume (Cartesian)",  "Regular Surface (Cylindrical)",   "Irregular Surface (Cylindrical)",
-    "Regular Surface (Spherical)",   "Irregular Surface (Spherical)",
+    "Regular Surface (Cartesian)",  "Irregular Surface (Cartesian)", "Regular Volume (Cartesian)",
+    "Irregular Volume (Cartesian)", "Regular Surface (Cylindrical)", "Irregular Surface (Cylindrical)",
+    "Regular Surface (Spherical)",  "Irregular Surface (Spherical)",
 };
 
 constexpr std::array<Headers, dataKindCount> headers{{

@@ -27,12 +27,16 @@ constexpr std::string_view rowsZMessage = "The number of Rows Z must larger than
 
 std::vector<CountRule> countRules(DataKind kind) {
     switch (kind) {
-        case DataKind::RegularSurface: return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}};
-        case DataKind::IrregularSurface: return {pointsRule, {4, 1, rowsXMessage}, {7, 1, rowsYMessage}};
-        case DataKind::RegularVolume: return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}, {4, 1, rowsZMessage}};
+        case DataKind::RegularSurface:
+            return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}};
+        case DataKind::IrregularSurface:
+            return {pointsRule, {4, 1, rowsXMessage}, {7, 1, rowsYMessage}};
+        case DataKind::RegularVolume:
+            return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}, {4, 1, rowsZMessage}};
         case DataKind::IrregularVolume:
             return {pointsRule, {4, 1, rowsXMessage}, {7, 1, rowsYMessage}, {10, 1, rowsZMessage}};
-        default: return {};
+        default:
+            return {};
     }
 }
 
@@ -101,12 +105,15 @@ std::string DataPanel::indexText(int row) const {
     if (row < 1 || row >= gridRows_) return {};
     const int n = row - 1;
     switch (indexForm_) {
-        case IndexForm::Number: return std::to_string(n);
-        case IndexForm::Pair: return std::to_string(n / indexColumns_) + ',' + std::to_string(n % indexColumns_);
+        case IndexForm::Number:
+            return std::to_string(n);
+        case IndexForm::Pair:
+            return std::to_string(n / indexColumns_) + ',' + std::to_string(n % indexColumns_);
         case IndexForm::Triple:
             return std::to_string(n / indexLayers_ / indexColumns_) + ',' +
                    std::to_string(n / indexLayers_ % indexColumns_) + ',' + std::to_string(n % indexLayers_);
-        case IndexForm::None: break;
+        case IndexForm::None:
+            break;
     }
     return {};
 }
@@ -128,9 +135,9 @@ int DataPanel::dataRows() const {
         if (one <= 0) return 0;
         rows *= one;
         if (rows > maximumRows)
-            throw base::Failure(base::FailureCode::SubscriptOutOfRange,
-                                "The data grid holds at most " + std::to_string(maximumRows) +
-                                    " rows; the data ask for more.");
+            throw base::Failure(
+                base::FailureCode::SubscriptOutOfRange,
+                "The data grid holds at most " + std::to_string(maximumRows) + " rows; the data ask for more.");
     }
     return static_cast<int>(rows);
 }

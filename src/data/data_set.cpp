@@ -42,8 +42,7 @@ void requireNodes(const Array& array, int countI, int countJ, int countK = 1) {
 void widenOver(const Array& array, int countI, int countJ, int countK, double& minimum, double& maximum) {
     requireNodes(array, countI, countJ, countK);
     const auto values = array.values();
-    forEachNode(array, countI, countJ, countK,
-                [&](std::size_t at) { widen(values[at], minimum, maximum); });
+    forEachNode(array, countI, countJ, countK, [&](std::size_t at) { widen(values[at], minimum, maximum); });
 }
 
 void scaleNodes(Array& array, int countI, int countJ, int countK, double scale) {
@@ -77,17 +76,17 @@ struct Ranges {
 };
 
 void customSurfaceScales(const Ranges& range, Scaling& scaling) {
-    const double longest = std::max(overRatio(range.x, scaling.ScaleRatioX, "X"),
-                                    overRatio(range.y, scaling.ScaleRatioY, "Y"));
+    const double longest =
+        std::max(overRatio(range.x, scaling.ScaleRatioX, "X"), overRatio(range.y, scaling.ScaleRatioY, "Y"));
     scaling.ScaleX = longest / 10;
     scaling.ScaleY = scaling.ScaleRatioX * scaling.ScaleX / scaling.ScaleRatioY;
     scaling.ScaleZ = overRatio(range.z / 10, scaling.ZoomZ, "Z (Zoom Z)");
 }
 
 void customVolumeScales(const Ranges& range, Scaling& scaling) {
-    const double longest = std::max({overRatio(range.x, scaling.ScaleRatioX, "X"),
-                                     overRatio(range.y, scaling.ScaleRatioY, "Y"),
-                                     overRatio(range.z, scaling.ScaleRatioZ, "Z")});
+    const double longest =
+        std::max({overRatio(range.x, scaling.ScaleRatioX, "X"), overRatio(range.y, scaling.ScaleRatioY, "Y"),
+                  overRatio(range.z, scaling.ScaleRatioZ, "Z")});
     scaling.ScaleX = longest / 10;
     scaling.ScaleY = scaling.ScaleRatioX * scaling.ScaleX / scaling.ScaleRatioY;
     scaling.ScaleZ = scaling.ScaleRatioX * scaling.ScaleX / scaling.ScaleRatioZ;
@@ -160,9 +159,9 @@ void ClsData::Normalize(Scaling& scaling) {
 
 std::size_t ClsData::bytes() const {
     std::size_t values = 0;
-    for (const Array* array : {&Reg3DX, &Reg3DY, &Reg3DZ, &Reg3DC, &Reg3DA, &Reg3DB, &Reg3DD, &Reg4DX, &Reg4DY,
-                               &Reg4DZ, &Reg4DV, &Reg4DC, &Irreg3DX, &Irreg3DY, &Irreg3DZ, &Irreg3DC, &Irreg4DX,
-                               &Irreg4DY, &Irreg4DZ, &Irreg4DV})
+    for (const Array* array :
+         {&Reg3DX, &Reg3DY, &Reg3DZ,   &Reg3DC,   &Reg3DA,   &Reg3DB,   &Reg3DD,   &Reg4DX,   &Reg4DY,   &Reg4DZ,
+          &Reg4DV, &Reg4DC, &Irreg3DX, &Irreg3DY, &Irreg3DZ, &Irreg3DC, &Irreg4DX, &Irreg4DY, &Irreg4DZ, &Irreg4DV})
         values += array->values().size();
     return values * sizeof(double);
 }

@@ -48,15 +48,15 @@ class ClsData {
     void GetData(const DataPanel& panel, Scaling& scaling, const GriddingChoice& gridding,
                  const platform::Desktop& desktop);
 
-    /// Fills the set from the panel's irregular data and grids them, without scaling: the lattice runs over the limits as
-    /// they were typed. Throws Failure as `GetData` does.
+    /// Fills the set from the panel's irregular data and grids them, without scaling: the lattice runs over the limits
+    /// as they were typed. Throws Failure as `GetData` does.
     void GetLattice(const DataPanel& panel, const GriddingChoice& gridding, const platform::Desktop& desktop);
 
     /// Recomputes the extents from the grid arrays.
     void GetBox();
 
-    /// Scales the coordinates to ten scene units and sets the factors; to be run once a fill. Throws DivisionByZero with
-    /// a message that names the range that is zero.
+    /// Scales the coordinates to ten scene units and sets the factors; to be run once a fill. Throws DivisionByZero
+    /// with a message that names the range that is zero.
     void Normalize(Scaling& scaling);
 
     /// Brings the scattered points to the grid by the chosen method.

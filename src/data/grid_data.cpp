@@ -85,12 +85,10 @@ numerics::GridResult gridVolumeOf(ClsData& data, int method, const numerics::Pro
 void ClsData::Grid(DataKind kind, const GriddingChoice& gridding, const platform::Desktop& desktop) {
     if (DataType != 2) return;
     const numerics::Progress progress = [&desktop](double share) { desktop.progress(share); };
-    const numerics::GridResult result =
-        DataDim == 2 ? gridVolumeOf(*this, gridding.VolumeGridMethod, progress)
-                     : gridSurfaceOf(*this, kind, gridding.SurfaceGridMethod, progress);
+    const numerics::GridResult result = DataDim == 2 ? gridVolumeOf(*this, gridding.VolumeGridMethod, progress)
+                                                     : gridSurfaceOf(*this, kind, gridding.SurfaceGridMethod, progress);
     if (!result.complete)
-        throw base::Failure(base::FailureCode::BadInput,
-                            std::string(result.message.empty() ? noGrid : result.message));
+        throw base::Failure(base::FailureCode::BadInput, std::string(result.message.empty() ? noGrid : result.message));
     fit.reset();
     if (result.fit) fit = result.fit->statistics;
 }

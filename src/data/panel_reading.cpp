@@ -56,7 +56,8 @@ void allocateSurfaceGrid(ClsData& data, DataKind kind) {
     for (Array* array : {&data.Reg3DX, &data.Reg3DY, &data.Reg3DZ, &data.Reg3DC})
         array->allocate(data.StepsX, data.StepsY);
     if (isCurvilinear(kind))
-        for (Array* array : {&data.Reg3DA, &data.Reg3DB, &data.Reg3DD}) array->allocate(data.StepsX, data.StepsY);
+        for (Array* array : {&data.Reg3DA, &data.Reg3DB, &data.Reg3DD})
+            array->allocate(data.StepsX, data.StepsY);
 }
 
 void startRegularRanges(ClsData& data) {
@@ -161,7 +162,8 @@ void convertAngleLimits(ClsData& data, DataKind kind) {
 
 void readScatteredSurface(ClsData& data, const DataPanel& panel) {
     const DataKind kind = panel.kind();
-    for (Array* array : {&data.Irreg3DX, &data.Irreg3DY, &data.Irreg3DZ, &data.Irreg3DC}) array->allocate(data.Points);
+    for (Array* array : {&data.Irreg3DX, &data.Irreg3DY, &data.Irreg3DZ, &data.Irreg3DC})
+        array->allocate(data.Points);
     data.MinC = irregularStart;
     data.MaxC = -irregularStart;
     const CellReader cell(panel);
@@ -198,7 +200,8 @@ void boxPointPositions(ClsData& data, DataKind kind) {
 }
 
 void readScatteredVolume(ClsData& data, const DataPanel& panel) {
-    for (Array* array : {&data.Irreg4DX, &data.Irreg4DY, &data.Irreg4DZ, &data.Irreg4DV}) array->allocate(data.Points);
+    for (Array* array : {&data.Irreg4DX, &data.Irreg4DY, &data.Irreg4DZ, &data.Irreg4DV})
+        array->allocate(data.Points);
     allocateVolumeGrid(data);
     data.MinC = data.MInv = irregularStart;
     data.MaxC = data.MaxV = -irregularStart;
@@ -222,12 +225,17 @@ struct CountBoxes {
 
 CountBoxes countBoxes(DataKind kind) {
     switch (kind) {
-        case DataKind::RegularVolume: return {1, 2, 4};
-        case DataKind::IrregularVolume: return {4, 7, 10};
-        case DataKind::IrregularCylindrical: return {4, 10, 0};
+        case DataKind::RegularVolume:
+            return {1, 2, 4};
+        case DataKind::IrregularVolume:
+            return {4, 7, 10};
+        case DataKind::IrregularCylindrical:
+            return {4, 10, 0};
         case DataKind::IrregularSurface:
-        case DataKind::IrregularSpherical: return {4, 7, 0};
-        default: return {1, 2, 0};
+        case DataKind::IrregularSpherical:
+            return {4, 7, 0};
+        default:
+            return {1, 2, 0};
     }
 }
 

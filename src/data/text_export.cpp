@@ -31,14 +31,22 @@ class TokenLine {
 
 std::string_view tagOf(DataKind kind) {
     switch (kind) {
-        case DataKind::RegularSurface: return "R3";
-        case DataKind::IrregularSurface: return "I3";
-        case DataKind::RegularVolume: return "R4";
-        case DataKind::IrregularVolume: return "I4";
-        case DataKind::RegularCylindrical: return "R3c";
-        case DataKind::IrregularCylindrical: return "I3c";
-        case DataKind::RegularSpherical: return "R3s";
-        case DataKind::IrregularSpherical: return "I3s";
+        case DataKind::RegularSurface:
+            return "R3";
+        case DataKind::IrregularSurface:
+            return "I3";
+        case DataKind::RegularVolume:
+            return "R4";
+        case DataKind::IrregularVolume:
+            return "I4";
+        case DataKind::RegularCylindrical:
+            return "R3c";
+        case DataKind::IrregularCylindrical:
+            return "I3c";
+        case DataKind::RegularSpherical:
+            return "R3s";
+        case DataKind::IrregularSpherical:
+            return "I3s";
     }
     return "";
 }
@@ -46,10 +54,14 @@ std::string_view tagOf(DataKind kind) {
 /// The regular kind that gridding turns an irregular one into.
 DataKind griddedKind(DataKind kind) {
     switch (kind) {
-        case DataKind::IrregularSurface: return DataKind::RegularSurface;
-        case DataKind::IrregularVolume: return DataKind::RegularVolume;
-        case DataKind::IrregularCylindrical: return DataKind::RegularCylindrical;
-        case DataKind::IrregularSpherical: return DataKind::RegularSpherical;
+        case DataKind::IrregularSurface:
+            return DataKind::RegularSurface;
+        case DataKind::IrregularVolume:
+            return DataKind::RegularVolume;
+        case DataKind::IrregularCylindrical:
+            return DataKind::RegularCylindrical;
+        case DataKind::IrregularSpherical:
+            return DataKind::RegularSpherical;
         default:
             throw base::Failure(base::FailureCode::BadInput, "Only irregular data can be gridded.");
     }
@@ -61,7 +73,8 @@ void appendSurfaceNodes(TokenLine& line, const ClsData& data, bool curvilinear) 
     const Array& third = curvilinear ? data.Reg3DD : data.Reg3DZ;
     for (int i = 0; i < data.StepsX; ++i)
         for (int j = 0; j < data.StepsY; ++j)
-            for (const Array* column : {&first, &second, &third}) line.number((*column)(i, j));
+            for (const Array* column : {&first, &second, &third})
+                line.number((*column)(i, j));
 }
 
 void appendVolumeNodes(TokenLine& line, const ClsData& data) {
@@ -83,11 +96,13 @@ std::vector<int> sizeBoxesOf(DataKind kind) {
 std::string exportText(const DataPanel& panel) {
     TokenLine line;
     line.token(tagOf(panel.kind()));
-    for (const int box : sizeBoxesOf(panel.kind())) line.token(panel.Text(box));
+    for (const int box : sizeBoxesOf(panel.kind()))
+        line.token(panel.Text(box));
     const int columns = isVolume(panel.kind()) ? 4 : 3;
     const int rows = panel.dataRows();
     for (int row = 1; row <= rows; ++row)
-        for (int column = 1; column <= columns; ++column) line.token(panel.cell(column, row));
+        for (int column = 1; column <= columns; ++column)
+            line.token(panel.cell(column, row));
     return line.take();
 }
 

@@ -74,13 +74,15 @@ class TextTokens {
 
 /// Counts the tokens that follow, so that a text too long for the table is refused before anything changes.
 void requireTokensFit(TextTokens tokens) {
-    while (!tokens.atEnd()) tokens.next();
+    while (!tokens.atEnd())
+        tokens.next();
 }
 
 void shape(DataPanel& panel, DataKind kind, const std::vector<std::string>& sizes) {
     panel.selectKind(kind);
     const std::vector<int> boxes = sizeBoxesOf(kind);
-    for (std::size_t i = 0; i < boxes.size(); ++i) panel.setText(boxes[i], sizes[i]);
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        panel.setText(boxes[i], sizes[i]);
     panel.layOut();
 }
 
@@ -100,7 +102,8 @@ bool importText(DataPanel& panel, std::string_view text) {
     const TextTag* tag = findTag(tokens.next());
     if (tag == nullptr) return false;
     std::vector<std::string> sizes;
-    for (std::size_t i = 0; i < sizeBoxesOf(tag->kind).size(); ++i) sizes.emplace_back(tokens.next());
+    for (std::size_t i = 0; i < sizeBoxesOf(tag->kind).size(); ++i)
+        sizes.emplace_back(tokens.next());
 
     DataPanel trial;
     shape(trial, tag->kind, sizes);

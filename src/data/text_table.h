@@ -20,14 +20,13 @@ inline constexpr int textTokenSlots = 500000;
 /// returns false. Throws SubscriptOutOfRange, with the panel unchanged, for more tokens or rows than the tables hold.
 bool importText(DataPanel& panel, std::string_view text);
 
-/// The panel's data as a data text: tag, sizes, cells; the colour column of surfaces is left out. Each token is followed by
-/// one blank. The panel should have passed `CheckData`.
+/// The panel's data as a data text: tag, sizes, cells; the colour column of surfaces is left out. Each token is
+/// followed by one blank. The panel should have passed `CheckData`.
 std::string exportText(const DataPanel& panel);
 
 /// The lattice that gridding makes of the panel's irregular data as a data text of the regular form of the same data:
 /// nodes in data units, angles in degrees. Throws Failure if the data cannot be gridded.
-std::string exportGriddedText(const DataPanel& panel, const GriddingChoice& gridding,
-                              const platform::Desktop& desktop);
+std::string exportGriddedText(const DataPanel& panel, const GriddingChoice& gridding, const platform::Desktop& desktop);
 
 /// The boxes of the panel that hold the sizes of a data text, in the order of their tokens.
 std::vector<int> sizeBoxesOf(DataKind kind);

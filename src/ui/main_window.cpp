@@ -54,9 +54,14 @@ void frmF1::load(const std::filesystem::path& path) {
 void frmF1::openDocument(const std::filesystem::path& path) {
     switch (core::LoadDocument(state_, path)) {
         case core::LoadResult::Loaded:
-        case core::LoadResult::NoPath: break;
-        case core::LoadResult::EmptyFile: state_.desktop.status("The file is empty."); break;
-        case core::LoadResult::UnknownTag: state_.desktop.status("The file holds no known kind of document."); break;
+        case core::LoadResult::NoPath:
+            break;
+        case core::LoadResult::EmptyFile:
+            state_.desktop.status("The file is empty.");
+            break;
+        case core::LoadResult::UnknownTag:
+            state_.desktop.status("The file holds no known kind of document.");
+            break;
     }
 }
 
@@ -84,8 +89,8 @@ void frmF1::run(std::string_view command) {
 
 bool frmF1::isEnabled(std::string_view command) const {
     if (command == "mnuFileNew2D" || command == "mnuFileNew4D") return !data::isCurvilinear(state_.panel.kind());
-    const bool turnsScene = command == "mnuViewFront" || command == "mnuViewISO" || command == "mnuViewRight" ||
-                            command == "mnuViewTop";
+    const bool turnsScene =
+        command == "mnuViewFront" || command == "mnuViewISO" || command == "mnuViewRight" || command == "mnuViewTop";
     return !turnsScene || state_.scene.SceneMode != scene::mode2D;
 }
 
@@ -231,7 +236,8 @@ void frmF1::setStandardView(double roll, double pitch, double yaw) {
 
 void frmF1::showFailure(const std::exception& failure) const {
     const bool memory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr;
-    state_.desktop.askUser({"Tessaplot", memory ? "There is not enough memory for this." : failure.what(), Icon::Error});
+    state_.desktop.askUser(
+        {"Tessaplot", memory ? "There is not enough memory for this." : failure.what(), Icon::Error});
 }
 
 }  // namespace tessaplot::ui

@@ -17,8 +17,8 @@ class frmF1 {
 
     core::AppState& state() { return state_; }
 
-    /// What happens at the start, once the picture exists: defaults, the file type, then the document at `path` or a new
-    /// 3D document if it is empty. Throws a Failure for a document that cannot be read.
+    /// What happens at the start, once the picture exists: defaults, the file type, then the document at `path` or a
+    /// new 3D document if it is empty. Throws a Failure for a document that cannot be read.
     void load(const std::filesystem::path& path);
 
     /// Runs the command of a menu entry by name. A failure is shown in the error box; the document stays.

@@ -5,7 +5,8 @@
 
 namespace tessaplot::ui {
 
-/// One entry of the menu bar. A separator has neither name nor caption; a submenu's entries follow it with a greater depth.
+/// One entry of the menu bar. A separator has neither name nor caption; a submenu's entries follow it with a greater
+/// depth.
 struct MenuEntry {
     int depth = 0;  ///< 0 stands on the bar itself.
     std::string_view name;

@@ -1,8 +1,8 @@
 #include "base/checked_array.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace tessaplot::base {
 namespace {

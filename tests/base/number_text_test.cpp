@@ -1,11 +1,11 @@
 #include "base/number_text.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <random>
+
+#include <gtest/gtest.h>
 
 #include "base/failure.h"
 
@@ -23,16 +23,19 @@ TEST_P(PrefixReading, takesTheNumericPrefix) {
     EXPECT_EQ(TextValue(GetParam().text), GetParam().value) << '"' << GetParam().text << '"';
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, PrefixReading,
-    testing::Values(Reading{"", 0}, Reading{"abc", 0}, Reading{".", 0}, Reading{"-", 0}, Reading{"+5", 5},
-                    Reading{"  -1.5e+2x", -150}, Reading{"12a", 12}, Reading{"1 2 3", 123}, Reading{".5", 0.5},
-                    Reading{"5.", 5}, Reading{"1.2.3", 1.2}, Reading{"1e", 1}, Reading{"1e+", 1}, Reading{"2E-3", 0.002},
-                    Reading{"--1", 0}, Reading{"inf", 0}, Reading{"nan", 0}, Reading{"0x10", 0}, Reading{"1,5", 1},
-                    Reading{"1e-999", 0}, Reading{"-0.0000001e-400", 0}, Reading{"123456789012345678", 123456789012345678.0}));
+INSTANTIATE_TEST_SUITE_P(Texts, PrefixReading,
+                         testing::Values(Reading{"", 0}, Reading{"abc", 0}, Reading{".", 0}, Reading{"-", 0},
+                                         Reading{"+5", 5}, Reading{"  -1.5e+2x", -150}, Reading{"12a", 12},
+                                         Reading{"1 2 3", 123}, Reading{".5", 0.5}, Reading{"5.", 5},
+                                         Reading{"1.2.3", 1.2}, Reading{"1e", 1}, Reading{"1e+", 1},
+                                         Reading{"2E-3", 0.002}, Reading{"--1", 0}, Reading{"inf", 0},
+                                         Reading{"nan", 0}, Reading{"0x10", 0}, Reading{"1,5", 1}, Reading{"1e-999", 0},
+                                         Reading{"-0.0000001e-400", 0},
+                                         Reading{"123456789012345678", 123456789012345678.0}));
 
 TEST(NumberText, refusesNumbersBeyondTheRangeOfAFloat) {
-    for (const char* text : {"1e999", "-1e400", "0.5e99999999999", "1E309"}) EXPECT_THROW(TextValue(text), Failure) << text;
+    for (const char* text : {"1e999", "-1e400", "0.5e99999999999", "1E309"})
+        EXPECT_THROW(TextValue(text), Failure) << text;
     EXPECT_THROW(TextValue(std::string(400, '9')), Failure);
     EXPECT_EQ(TextValue('.' + std::string(400, '0') + '1'), 0);
     EXPECT_THROW(TextInteger("3000000000"), Failure);

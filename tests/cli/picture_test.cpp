@@ -1,11 +1,11 @@
-#include <gtest/gtest.h>
-
 #include <QImage>
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "run_program.h"
 

@@ -1,10 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "core/document.h"
 #include "run_program.h"
@@ -26,31 +26,31 @@ void put(const std::string& path, const std::string& bytes) {
 
 TEST(Program, wrongUsageAndFailuresHaveTheirOwnStatus) {
     const TemporaryFolder folder;
-    for (const std::vector<std::string>& wrong : std::vector<std::vector<std::string>>{
-             {},
-             {"dance"},
-             {"render", sample("sphere")},
-             {"render", sample("sphere"), folder / "x.png", "--size", "10"},
-             {"render", sample("sphere"), folder / "x.png", "--size", "10x0"},
-             {"render", sample("sphere"), folder / "x.png", "--view", "below"},
-             {"trace", sample("sphere"), "--frame", "--legend"},
-             {"trace", sample("sphere"), "--graph", "0"},
-             {"grid", sample("sphere"), folder / "x.txt", "--method", "6"}})
+    for (const std::vector<std::string>& wrong :
+         std::vector<std::vector<std::string>>{{},
+                                               {"dance"},
+                                               {"render", sample("sphere")},
+                                               {"render", sample("sphere"), folder / "x.png", "--size", "10"},
+                                               {"render", sample("sphere"), folder / "x.png", "--size", "10x0"},
+                                               {"render", sample("sphere"), folder / "x.png", "--view", "below"},
+                                               {"trace", sample("sphere"), "--frame", "--legend"},
+                                               {"trace", sample("sphere"), "--graph", "0"},
+                                               {"grid", sample("sphere"), folder / "x.txt", "--method", "6"}})
         EXPECT_EQ(cli(wrong).status, 2) << testing::PrintToString(wrong);
     put(folder / "text.tsp", "not a document");
     put(folder / "tag.tsp", std::string("\x08\0\x05\0", 4) + "D99 1");
-    for (const std::vector<std::string>& failing : std::vector<std::vector<std::string>>{
-             {"render", folder / "missing.tsp", folder / "x.png"},
-             {"info", folder / "text.tsp"},
-             {"info", folder / "tag.tsp"},
-             {"convert", folder / "tag.tsp", folder / "y.tsp"},
-             {"render", sample("sphere"), folder / "x.xyz"},
-             {"render", sample("sphere"), folder / "no/x.png"},
-             {"trace", sample("sphere"), "--graph", "2"},
-             {"grid", sample("sphere"), folder / "x.txt"},
-             {"import", folder / "text.tsp", folder / "y.tsp"},
-             {"eval", ""},
-             {"eval", "X", "Q=1"}}) {
+    for (const std::vector<std::string>& failing :
+         std::vector<std::vector<std::string>>{{"render", folder / "missing.tsp", folder / "x.png"},
+                                               {"info", folder / "text.tsp"},
+                                               {"info", folder / "tag.tsp"},
+                                               {"convert", folder / "tag.tsp", folder / "y.tsp"},
+                                               {"render", sample("sphere"), folder / "x.xyz"},
+                                               {"render", sample("sphere"), folder / "no/x.png"},
+                                               {"trace", sample("sphere"), "--graph", "2"},
+                                               {"grid", sample("sphere"), folder / "x.txt"},
+                                               {"import", folder / "text.tsp", folder / "y.tsp"},
+                                               {"eval", ""},
+                                               {"eval", "X", "Q=1"}}) {
         const ProgramRun run = cli(failing);
         EXPECT_EQ(run.status, 1) << testing::PrintToString(failing);
         EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
@@ -114,12 +114,10 @@ TEST(Program, numbersGoRoundThroughTextAndGridding) {
     ASSERT_THAT(document, StartsWith(empty));
     core::writeDocumentFile(folder / "lattice.tsp", "D41 0 0 9 3 3 0 2 0 2 " + document.substr(empty.size()));
     ASSERT_EQ(cli({"grid", folder / "lattice.tsp", folder / "grid.txt"}).status, 0);
-    EXPECT_EQ(bytesOf(folder / "grid.txt"),
-              "\"R3 3 3 0 0 0 0 1 2 0 2 1 1 0 1 1 1 2 1 2 0 2 0 4 2 1 4 2 2 1 \"\r\n")
+    EXPECT_EQ(bytesOf(folder / "grid.txt"), "\"R3 3 3 0 0 0 0 1 2 0 2 1 1 0 1 1 1 2 1 2 0 2 0 4 2 1 4 2 2 1 \"\r\n")
         << "nodes that lie on points have their values";
     ASSERT_EQ(cli({"export", folder / "lattice.tsp", folder / "again.txt"}).status, 0);
-    EXPECT_EQ(bytesOf(folder / "again.txt"),
-              "\"I3 9 0 0 0 1 0 1 2 0 4 0 1 2 1 1 2 2 1 4 0 2 1 1 2 0 2 2 1 \"\r\n");
+    EXPECT_EQ(bytesOf(folder / "again.txt"), "\"I3 9 0 0 0 1 0 1 2 0 4 0 1 2 1 1 2 2 1 4 0 2 1 1 2 0 2 2 1 \"\r\n");
     EXPECT_EQ(cli({"grid", folder / "lattice.tsp", folder / "x.txt", "--method", "5"}).status, 0);
 }
 

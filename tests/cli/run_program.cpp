@@ -1,10 +1,10 @@
 #include "run_program.h"
 
-#include <sys/wait.h>
-
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+
+#include <sys/wait.h>
 
 namespace tessaplot {
 
@@ -12,7 +12,8 @@ namespace {
 
 std::string quoted(const std::string& text) {
     std::string result = "'";
-    for (const char c : text) result += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    for (const char c : text)
+        result += c == '\'' ? std::string("'\\''") : std::string(1, c);
     return result + "'";
 }
 
@@ -26,7 +27,8 @@ std::string bytesOf(const std::filesystem::path& path) {
 ProgramRun runProgram(const std::string& program, const std::vector<std::string>& arguments) {
     const TemporaryFolder folder;
     std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY " + quoted(program);
-    for (const std::string& argument : arguments) command += ' ' + quoted(argument);
+    for (const std::string& argument : arguments)
+        command += ' ' + quoted(argument);
     command += " >" + quoted(folder / "out") + " 2>" + quoted(folder / "err") + " </dev/null";
     const int ended = std::system(command.c_str());
     return {WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, bytesOf(folder / "out"), bytesOf(folder / "err")};

@@ -1,12 +1,12 @@
-#include <gtest/gtest.h>
-#include <sys/resource.h>
-
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include "base/failure.h"
 #include "core/document.h"
@@ -100,11 +100,15 @@ TEST_F(DocumentFile, writesThroughALinkAndKeepsPermissions) {
 
 TEST(TextEncoding, keepsEveryCharacterInOneByteWherePossible) {
     const std::string western = "Grö\u00dfe \u20ac \u2019";
-    EXPECT_EQ(toFileBytes(western), "Gr\xf6\xdf" "e \x80 \x92");
-    for (const std::string& text : {western, std::string("plain"), std::string("\u03b1 and \u4e2d"), std::string("\u00c3\u00a4")})
+    EXPECT_EQ(toFileBytes(western),
+              "Gr\xf6\xdf"
+              "e \x80 \x92");
+    for (const std::string& text :
+         {western, std::string("plain"), std::string("\u03b1 and \u4e2d"), std::string("\u00c3\u00a4")})
         EXPECT_EQ(fromFileBytes(toFileBytes(text)), text);
     std::string all;
-    for (int byte = 1; byte < 256; ++byte) all += static_cast<char>(byte);
+    for (int byte = 1; byte < 256; ++byte)
+        all += static_cast<char>(byte);
     EXPECT_EQ(toFileBytes(fromFileBytes(all)), all);
 }
 

@@ -1,8 +1,8 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "base/failure.h"
 #include "core/document.h"
@@ -17,7 +17,8 @@ using data::DataKind;
 /// Plain tokens "n n+1 ..." of which every one is different.
 std::string numbers(int from, int to) {
     std::string text;
-    for (int n = from; n <= to; ++n) text += std::to_string(n) + ' ';
+    for (int n = from; n <= to; ++n)
+        text += std::to_string(n) + ' ';
     return text;
 }
 
@@ -101,7 +102,8 @@ TEST_P(Generation, wholeDocumentOfEveryKindIsReadAndBecomesTheNewest) {
         std::string data = newest.substr(newest.find(' ', newest.find(' ') + 1) + 1);
         TokenReader in(data, tokenTableSize);
         const auto keep = [&](int count) {
-            for (int i = 0; i < count; ++i) old += ' ' + std::string(in.token());
+            for (int i = 0; i < count; ++i)
+                old += ' ' + std::string(in.token());
         };
         old += " 1";
         const int headTokens[] = {3, 8, 4, 11, 3, 8, 3, 8};
@@ -132,13 +134,17 @@ TEST_P(Generation, wholeDocumentOfEveryKindIsReadAndBecomesTheNewest) {
                 EXPECT_EQ(document->panel.Text(box), state.panel.Text(box)) << "kind " << kind << " box " << box;
             }
 
-        const DocumentParts parts{document->SceneMode, document->panel,       {&document->graphs[0]},
-                                  document->axis,      state.scaling, *document->gridding};
+        const DocumentParts parts{document->SceneMode, document->panel, {&document->graphs[0]},
+                                  document->axis,      state.scaling,   *document->gridding};
         const std::string saved = documentText(parts);
         EXPECT_TRUE(saved.starts_with("D41 1 "));
         const auto reread = readDocument(saved);
         ASSERT_TRUE(reread);
-        EXPECT_EQ(documentText({reread->SceneMode, reread->panel, {&reread->graphs[0]}, reread->axis, *reread->scaling,
+        EXPECT_EQ(documentText({reread->SceneMode,
+                                reread->panel,
+                                {&reread->graphs[0]},
+                                reread->axis,
+                                *reread->scaling,
                                 *reread->gridding}),
                   saved);
     }

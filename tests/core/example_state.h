@@ -14,13 +14,15 @@ namespace tessaplot::core {
 inline void fillPanel(data::DataPanel& panel, data::DataKind kind) {
     panel = {};
     panel.selectKind(kind);
-    for (int box = 1; box <= 10; ++box) panel.setText(box, std::to_string(box % 2 == 1 ? -box : box + 20));
+    for (int box = 1; box <= 10; ++box)
+        panel.setText(box, std::to_string(box % 2 == 1 ? -box : box + 20));
     const bool irregular = data::isIrregular(kind);
     for (const int box : {1, 2, 4})
         if (!irregular) panel.setText(box, "3");
     if (irregular) {
         panel.setText(3, "27");
-        for (const int box : {4, 7, 10}) panel.setText(box, "4");
+        for (const int box : {4, 7, 10})
+            panel.setText(box, "4");
     }
     panel.layOut();
     for (int row = 1; row < panel.gridRows(); ++row) {

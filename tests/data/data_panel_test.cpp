@@ -77,13 +77,16 @@ TEST(DataPanel, validatesBoxesInOrderAndSaysWhichOneIsWrong) {
         {DataKind::IrregularSurface, {{3, "3"}, {4, "1"}, {7, "0"}}, "The number of Rows Y must larger than 0."},
         {DataKind::IrregularSurface, {{3, "3"}, {4, "1"}, {7, "1"}, {5, "x"}}, "Illegal data exist."},
         {DataKind::RegularVolume, {{1, "1"}, {2, "1"}, {4, "0"}}, "The number of Rows Z must larger than 0."},
-        {DataKind::IrregularVolume, {{3, "9"}, {4, "1"}, {7, "1"}, {10, "0"}}, "The number of Rows Z must larger than 0."},
+        {DataKind::IrregularVolume,
+         {{3, "9"}, {4, "1"}, {7, "1"}, {10, "0"}},
+         "The number of Rows Z must larger than 0."},
         {DataKind::RegularSpherical, {{1, "abc"}}, ""},
     };
     for (const CheckCase& one : cases) {
         DataPanel panel;
         panel.selectKind(one.kind);
-        for (const auto& [box, text] : one.boxes) panel.setText(box, text);
+        for (const auto& [box, text] : one.boxes)
+            panel.setText(box, text);
         std::string message;
         EXPECT_EQ(panel.CheckData(message), *one.message == '\0') << one.message;
         EXPECT_EQ(message, one.message);

@@ -1,10 +1,10 @@
 #include "data/data_set.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "base/failure.h"
 
@@ -21,7 +21,8 @@ DataPanel panelOf(DataKind kind, std::initializer_list<std::pair<int, const char
                   std::initializer_list<Cells> rows) {
     DataPanel panel;
     panel.selectKind(kind);
-    for (const auto& [box, text] : boxes) panel.setText(box, text);
+    for (const auto& [box, text] : boxes)
+        panel.setText(box, text);
     panel.layOut();
     int row = 0;
     for (const Cells& cells : rows) {
@@ -148,7 +149,8 @@ TEST(ClsData, refusesCountsBeyondItsLimits) {
     DataPanel panel;
     panel.selectKind(DataKind::IrregularVolume);
     panel.setText(3, "4");
-    for (const int box : {4, 7, 10}) panel.setText(box, "2000");
+    for (const int box : {4, 7, 10})
+        panel.setText(box, "2000");
     EXPECT_THAT(failureOf(panel, {}), HasSubstr("nodes"));
     panel.setText(3, "20001");
     EXPECT_THAT(failureOf(panel, {}), HasSubstr("20000"));

@@ -1,14 +1,14 @@
 #include "data/text_table.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "base/failure.h"
 #include "base/number_text.h"
@@ -52,23 +52,25 @@ TEST(TextImport, everyTagInEitherCaseSetsKindSizesAndCells) {
         int columns;
     };
     const Case cases[] = {
-        {"R3", DataKind::RegularSurface, 2, 3},         {"rd", DataKind::RegularSurface, 2, 3},
-        {"Rc", DataKind::RegularSurface, 2, 4},         {"r3c", DataKind::RegularCylindrical, 2, 3},
-        {"RCC", DataKind::RegularCylindrical, 2, 4},    {"R3s", DataKind::RegularSpherical, 2, 3},
-        {"rcs", DataKind::RegularSpherical, 2, 4},      {"I3", DataKind::IrregularSurface, 1, 3},
-        {"ID", DataKind::IrregularSurface, 1, 3},       {"ic", DataKind::IrregularSurface, 1, 4},
-        {"I3c", DataKind::IrregularCylindrical, 1, 3},  {"icc", DataKind::IrregularCylindrical, 1, 4},
-        {"i3s", DataKind::IrregularSpherical, 1, 3},    {"ICS", DataKind::IrregularSpherical, 1, 4},
-        {"R4", DataKind::RegularVolume, 3, 4},          {"\"any I4", DataKind::IrregularVolume, 1, 4},
+        {"R3", DataKind::RegularSurface, 2, 3},        {"rd", DataKind::RegularSurface, 2, 3},
+        {"Rc", DataKind::RegularSurface, 2, 4},        {"r3c", DataKind::RegularCylindrical, 2, 3},
+        {"RCC", DataKind::RegularCylindrical, 2, 4},   {"R3s", DataKind::RegularSpherical, 2, 3},
+        {"rcs", DataKind::RegularSpherical, 2, 4},     {"I3", DataKind::IrregularSurface, 1, 3},
+        {"ID", DataKind::IrregularSurface, 1, 3},      {"ic", DataKind::IrregularSurface, 1, 4},
+        {"I3c", DataKind::IrregularCylindrical, 1, 3}, {"icc", DataKind::IrregularCylindrical, 1, 4},
+        {"i3s", DataKind::IrregularSpherical, 1, 3},   {"ICS", DataKind::IrregularSpherical, 1, 4},
+        {"R4", DataKind::RegularVolume, 3, 4},         {"\"any I4", DataKind::IrregularVolume, 1, 4},
     };
     for (const Case& one : cases) {
         DataPanel panel;
         panel.setCell(4, 2, "old");
         std::string text = one.tag;
         if (text.front() == '"') text = "\"prefixI4";
-        for (int i = 0; i < one.sizes; ++i) text += " 2";
+        for (int i = 0; i < one.sizes; ++i)
+            text += " 2";
         const int rows = one.sizes == 1 ? 2 : one.sizes == 2 ? 4 : 8;
-        for (int n = 1; n <= rows * one.columns; ++n) text += (n % 2 ? "\t" : "\r\n") + std::to_string(n);
+        for (int n = 1; n <= rows * one.columns; ++n)
+            text += (n % 2 ? "\t" : "\r\n") + std::to_string(n);
         ASSERT_TRUE(importText(panel, text)) << one.tag;
         EXPECT_EQ(panel.kind(), one.kind) << one.tag;
         EXPECT_EQ(panel.gridRows(), rows + 1);
@@ -83,7 +85,8 @@ TEST(TextImport, everyTagInEitherCaseSetsKindSizesAndCells) {
 TEST(TextImport, badTextsChangeNothingAndEmptyTokensShiftTheData) {
     DataPanel panel;
     panel.setText(1, "7");
-    for (const char* text : {"", " ", "X9 1 1", "3", "\"\"", "R", "\xEF\xBB"}) EXPECT_FALSE(importText(panel, text)) << text;
+    for (const char* text : {"", " ", "X9 1 1", "3", "\"\"", "R", "\xEF\xBB"})
+        EXPECT_FALSE(importText(panel, text)) << text;
     EXPECT_THROW(importText(panel, "R3 200 101 1 2 3"), base::Failure);
     EXPECT_THROW(importText(panel, "R3 1e999 1"), base::Failure);
     EXPECT_THROW(importText(panel, "I3 3 " + std::string(500000, ' ')), base::Failure);
@@ -104,7 +107,8 @@ TEST(TextExport, goesOutAsOneQuotedLineAndComesInTheSame) {
     for (int kind = 0; kind < dataKindCount; ++kind) {
         DataPanel panel = scattered(static_cast<DataKind>(kind), 8);
         if (!isIrregular(panel.kind()))
-            for (const int box : {1, 2, 4}) panel.setText(box, "2");
+            for (const int box : {1, 2, 4})
+                panel.setText(box, "2");
         panel.layOut();
         writeTextFile(path, exportText(panel));
         std::ifstream file(path, std::ios::binary);

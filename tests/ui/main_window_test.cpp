@@ -1,13 +1,13 @@
 #include "ui/main_window.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <filesystem>
 #include <set>
 #include <string>
 #include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "base/failure.h"
 #include "core/document.h"
@@ -35,7 +35,8 @@ class MainWindow : public testing::Test {
             answers.pop_front();
             return answer;
         };
-        state.desktop.chooseFile = [this](const platform::FileQuestion& question) -> std::optional<platform::FileChoice> {
+        state.desktop.chooseFile =
+            [this](const platform::FileQuestion& question) -> std::optional<platform::FileChoice> {
             asked.push_back(question.title + " " + question.filter);
             if (chosen.empty()) return std::nullopt;
             return platform::FileChoice{chosen, 1};
@@ -46,11 +47,13 @@ class MainWindow : public testing::Test {
     void TearDown() override { fs::remove_all(folder); }
 
     void addGraph() {
-        for (const int box : {1, 2}) state.panel.setText(box, "2");
+        for (const int box : {1, 2})
+            state.panel.setText(box, "2");
         window.Command1_Click();
         const char* cells[4][3] = {{"0", "0", "1"}, {"0", "1", "2"}, {"1", "0", "3"}, {"1", "1", "5"}};
         for (int row = 1; row <= 4; ++row)
-            for (int column = 1; column <= 3; ++column) state.panel.setCell(column, row, cells[row - 1][column - 1]);
+            for (int column = 1; column <= 3; ++column)
+                state.panel.setCell(column, row, cells[row - 1][column - 1]);
         state.TheData.GetData(state.panel, state.scaling, state.gridding, state.desktop);
         auto graph = std::make_shared<graphs::Cls9>();
         graph->ID = ++state.LastGraphId;
