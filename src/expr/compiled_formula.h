@@ -1,12 +1,10 @@
 #pragma once
 
-#include <algorithm>
 #include <string_view>
 
 #include "expr/formula_machine.h"
 #include "expr/formula_program.h"
 #include "expr/random_sequence.h"
-#include "expr/tokens.h"
 
 namespace tessaplot::expr {
 
@@ -28,11 +26,6 @@ class CompiledFormula {
         cells[5] = R;
         cells[6] = B;
         cells[7] = T;
-    }
-
-    /// Sets the variables to those of another formula.
-    void assignFrom(const CompiledFormula& other) {
-        std::copy_n(other.program_.cells.begin(), variableCount, program_.cells.begin());
     }
 
     /// Evaluates the formula, with `degrees` taking angles in degrees. `result` is written for Outcome::Value only.

@@ -44,29 +44,17 @@ bool Cls6::InfixToPostfix(std::string_view sExpression, std::string& sBuffer, st
     return good;
 }
 
-bool Cls6::DoEvaluate(std::string_view sExpression, bool bolDegree, double& sngResult, const double& sngU,
-                      const double& sngV, const double& sngX, const double& sngY, const double& sngA,
-                      const double& sngR, const double& sngB, const double& sngT) {
-    // Most often the text is that of the last call, so the variables need not wait until the texts have been compared.
-    cache_.front()->formula.assign(sngU, sngV, sngX, sngY, sngA, sngR, sngB, sngT);
-    if (cache_.front()->postfix != sExpression) [[unlikely]]
-        changeTo(sExpression);
-    const Outcome outcome = cache_.front()->formula.evaluate(bolDegree, context_.random, sngResult);
-    return outcome == Outcome::Value || endWithout(outcome, sngResult);
-}
-
 std::unique_ptr<Cls6::CachedFormula> Cls6::compile(std::string_view postfix) {
     return std::make_unique<CachedFormula>(CachedFormula{std::string(postfix), CompiledFormula(postfix)});
 }
 
-void Cls6::changeTo(std::string_view postfix) {
+void Cls6::bringToFront(std::string_view postfix) {
     auto entry = std::find_if(cache_.begin(), cache_.end(),
                               [&](const auto& cached) { return cached && cached->postfix == postfix; });
     if (entry == cache_.end()) {
         --entry;
         *entry = compile(postfix);
     }
-    (*entry)->formula.assignFrom(cache_.front()->formula);
     std::rotate(cache_.begin(), entry, entry + 1);
 }
 

@@ -46,7 +46,15 @@ class Cls6 {
     /// operand, Failure (Overflow) for a number beyond the range of a 64-bit float.
     bool DoEvaluate(std::string_view sExpression, bool bolDegree, double& sngResult, const double& sngU,
                     const double& sngV, const double& sngX, const double& sngY, const double& sngA, const double& sngR,
-                    const double& sngB, const double& sngT);
+                    const double& sngB, const double& sngT) {
+        // Here and not in the source file, because passing so many arguments would cost a tenth of a short formula.
+        if (cache_.front()->postfix != sExpression) [[unlikely]]
+            bringToFront(sExpression);
+        CompiledFormula& formula = cache_.front()->formula;
+        formula.assign(sngU, sngV, sngX, sngY, sngA, sngR, sngB, sngT);
+        const Outcome outcome = formula.evaluate(bolDegree, context_.random, sngResult);
+        return outcome == Outcome::Value || endWithout(outcome, sngResult);
+    }
 
  private:
     struct CachedFormula {
@@ -55,8 +63,8 @@ class Cls6 {
     };
 
     static std::unique_ptr<CachedFormula> compile(std::string_view postfix);
-    /// Makes `postfix` the front of the cache, with the variables of the former front.
-    void changeTo(std::string_view postfix);
+    /// Puts the compiled form of `postfix` at the front of the cache.
+    void bringToFront(std::string_view postfix);
     bool endWithout(Outcome outcome, double& result) const;
     void report(std::string_view title, std::string_view text) const;
 

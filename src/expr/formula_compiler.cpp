@@ -119,8 +119,10 @@ FormulaCompiler::Cell FormulaCompiler::resultOf(Operation operation, Cell left, 
 /// True if the operation has the same value whenever the formula is evaluated. One that fails must fail each time anew.
 bool FormulaCompiler::fold(Operation operation, Cell left, Cell right, double& value) const {
     const std::vector<double>& cells = program_.cells;
-    if (operation == Operation::Power && isConstant_[right] && cells[right] == 0)
-        return yield(1, value) == Outcome::Value;
+    if (operation == Operation::Power && isConstant_[right] && cells[right] == 0) {
+        value = 1;
+        return true;
+    }
     if (!isConstant_[left] || operation == Operation::Rnd || takesAngle(operation)) return false;
     if (!isBinary(operation)) return applyUnary(operation, cells[left], false, value) == Outcome::Value;
     return isConstant_[right] && applyBinary(operation, cells[left], cells[right], value) == Outcome::Value;

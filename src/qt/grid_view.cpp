@@ -120,7 +120,9 @@ void GridView::move(CursorAction action) {
 void GridView::keyPressEvent(QKeyEvent* event) {
     // Tab stays in the grid, so something else must lead out of it.
     if (event->key() == Qt::Key_Tab && event->modifiers().testFlag(Qt::ControlModifier)) {
-        QWidget::focusNextPrevChild(true);
+        setTabKeyNavigation(false);
+        focusNextChild();
+        setTabKeyNavigation(true);
         return;
     }
     if (!isEnter(event->key())) return QTableView::keyPressEvent(event);

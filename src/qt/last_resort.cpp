@@ -43,6 +43,7 @@ void LastResort::tellAndEnd(const std::string& message, const std::filesystem::p
     } catch (const std::exception&) {
         // Nothing is left that could tell of it.
     }
+    ended_ = true;
     QCoreApplication::exit(1);
 }
 

@@ -18,6 +18,8 @@ class LastResort : public QObject {
     void take(const char* message) noexcept;
 
     bool taken() const { return taken_; }
+    /// The person was told; only the return from `main` is left.
+    bool ended() const { return ended_; }
 
  private:
     std::filesystem::path keepWork() const;
@@ -26,6 +28,7 @@ class LastResort : public QObject {
     ui::frmF1& form_;
     std::filesystem::path recoveryFolder_;
     bool taken_ = false;
+    bool ended_ = false;
 };
 
 /// The folder of the user's own data of this program.

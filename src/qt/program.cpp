@@ -40,7 +40,8 @@ int runProgram(Application& application, const std::filesystem::path& document) 
     });
     const auto forget = qScopeGuard([&] { application.setLastResort({}); });
 
-    if (!open(window, state, document)) return 1;
+    // A box at the start may already have let a failure run its course, and the loop below would not know of it.
+    if (!open(window, state, document) || lastResort.ended()) return 1;
     const int status = application.exec();
     return lastResort.taken() ? 1 : status;
 }

@@ -163,7 +163,8 @@ TEST(Evaluator, evaluatesHugeFormulas) {
     std::string formula = "X";
     while (formula.size() < (1 << 20))
         formula += "+X/X";
-    EXPECT_EQ(bench.value(formula, false, 3), 3 + static_cast<double>(formula.size() / 4));
+    const std::size_t terms = formula.size() / 4;
+    EXPECT_EQ(bench.value(formula, false, 3), 3 + static_cast<double>(terms));
     std::string distinct = "X";
     for (int i = 0; distinct.size() < (1 << 20); ++i)
         distinct += "+X*" + std::to_string(i);

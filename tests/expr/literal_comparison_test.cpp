@@ -32,15 +32,13 @@ class FormulaMaker {
 
     const std::string& oneOf(const std::vector<std::string>& list) { return list[below(list.size())]; }
 
-    /// A good formula of at most `depth` levels.
-    std::string infix(int depth) {
-        const std::size_t kind = depth == 0 ? below(2) : below(8);
-        if (kind == 0) return oneOf(variables);
-        if (kind == 1) return numbers[below(6)];
-        if (kind == 2) return "(-" + infix(depth - 1) + ")";
-        if (kind == 3) return oneOf(functions) + "(" + infix(depth - 1) + ")";
-        if (kind == 4) return "(" + infix(depth - 1) + ")^" + (below(2) ? "2" : infix(0));
-        return "(" + infix(depth - 1) + ")" + "+-*/"[below(4)] + infix(depth - 1);
+    /// A good formula, parts of which occur more than once.
+    std::string infix(int depth = deepest) {
+        if (depth == deepest) remembered_.clear();
+        if (depth > 0 && depth < 4 && below(3) == 0 && !remembered_.empty()) return "(" + remembered_ + ")";
+        std::string formula = newInfix(depth);
+        if (depth > 0 && depth < 4 && below(3) == 0) remembered_ = formula;
+        return formula;
     }
 
     /// A postfix text that is right most of the time.
@@ -79,23 +77,10 @@ class FormulaMaker {
     }
 
     double value() {
-        constexpr double special[] = {0,
-                                      -0.0,
-                                      1,
-                                      -1,
-                                      2,
-                                      -2,
-                                      0.5,
-                                      -8,
-                                      90,
-                                      45,
-                                      1e-300,
-                                      1e300,
-                                      -1e300,
-                                      710,
-                                      0.12345,
-                                      std::numeric_limits<double>::infinity(),
-                                      std::numeric_limits<double>::quiet_NaN()};
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+        constexpr double special[] = {0,  -0.0,   1,     -1,     2,   -2,      0.5,      -8, 90,
+                                      45, 1e-300, 1e300, -1e300, 710, 0.12345, infinity, nan};
         if (below(3) == 0) return special[below(std::size(special))];
         return std::uniform_real_distribution<double>(-4, 4)(random_);
     }
@@ -103,6 +88,19 @@ class FormulaMaker {
  private:
     static std::string twice(const std::string& name) { return name + name; }
 
+    std::string newInfix(int depth) {
+        const std::size_t kind = depth == 0 ? below(2) : below(8);
+        if (kind == 0) return oneOf(variables);
+        if (kind == 1) return numbers[below(6)];
+        if (kind == 2) return "(-" + infix(depth - 1) + ")";
+        if (kind == 3) return oneOf(functions) + "(" + infix(depth - 1) + ")";
+        if (kind == 4) return "(" + infix(depth - 1) + ")^" + (below(2) ? "2" : infix(0));
+        const std::string left = "(" + infix(depth - 1) + ")";
+        return left + "+-*/"[below(4)] + infix(depth - 1);
+    }
+
+    static constexpr int deepest = 5;
+    std::string remembered_;
     std::mt19937 random_;
 };
 
@@ -161,7 +159,7 @@ TEST(LiteralComparison, aCompiledFormulaGivesTheBitsAndTheFailuresOfTheText) {
         std::string postfix;
         std::int32_t position = 0;
         if (count % 2)
-            ASSERT_TRUE(scanner.InfixToPostfix(maker.infix(5), postfix, position)) << scanner.syntaxMessage();
+            ASSERT_TRUE(scanner.InfixToPostfix(maker.infix(), postfix, position)) << scanner.syntaxMessage();
         else
             postfix = maker.postfix();
         for (int sample = 0; sample < 5; ++sample) {

@@ -10,9 +10,9 @@ namespace tessaplot::gl::test {
 
 /// How far two pictures are apart.
 struct Difference {
-    int largest = 0;         ///< Over all channels, of 255.
-    double share = 0;        ///< Of the pixels, those whose difference is above 1.
-    double drawnShare = 0;   ///< Of the pixels, those of the first picture that are not white.
+    int largest = 0;        ///< Over all channels, of 255.
+    double share = 0;       ///< Of the pixels, those whose difference is above 1.
+    double drawnShare = 0;  ///< Of the pixels, those of the first picture that are not white.
 };
 
 inline Difference compare(const Pixels& a, const Pixels& b) {
@@ -59,10 +59,10 @@ inline void placeCamera(DisplayList& list, double shift = 0) {
     list.glMatrixMode(GL_PROJECTION);
     list.glLoadIdentity();
     const double offset = shift * 16 / BothWays::width;
-    list.glOrtho(-8 + offset, 8 + offset, -6.4 + offset, 6.4 + offset, 0.001, 2000);
+    list.glOrtho(-8 + offset, 8 + offset, -6.4 + offset, 6.4 + offset, 1, 40);
     list.glMatrixMode(GL_MODELVIEW);
     list.glLoadIdentity();
-    list.gluLookAt(0, 0, 1000, 0, 0, 0, 0, 1, 0);
+    list.gluLookAt(0, 0, 20, 0, 0, 0, 0, 1, 0);
     list.glRotatef(35, 1, 0, 0);
     list.glRotatef(-40, 0, 1, 0);
 }
@@ -75,6 +75,8 @@ inline void setLight(DisplayList& list) {
     list.glLightfv(GL_LIGHT0, GL_SPECULAR, one);
     list.glLightModelfv(GL_LIGHT_MODEL_AMBIENT, dim);
     list.glLightModelfv(GL_LIGHT_MODEL_TWO_SIDE, std::array<float, 1>{1});
+    // Without it highlights have a hard edge, which rounding would move.
+    list.glMaterialfv(GL_FRONT_AND_BACK, GL_SHININESS, std::array<float, 1>{10});
     list.glEnable(GL_LIGHTING);
     list.glEnable(GL_LIGHT0);
     list.glEnable(GL_COLOR_MATERIAL);

@@ -1,7 +1,7 @@
-#include <gmock/gmock.h>
-
-#include <functional>
+#include <cmath>
 #include <random>
+
+#include <gmock/gmock.h>
 
 #include "picture_comparison.h"
 
@@ -59,20 +59,30 @@ class RandomList {
     }
 
     void block(DisplayList& list) {
-        if (pick(4) == 0) {
-            quads(list);
-            return;
-        }
+        if (pick(4) == 0) return quads(list);
+        if (pick(8) == 0) return polygon(list);
         const double x = number(-4, 4);
         const double y = number(-3, 3);
         const double z = number(-4, 4);
         const bool changesAtEachVertex = pick(2) == 0;
         list.glBegin(oneOf(std::array<GLenum, 9>{GL_POINTS, GL_LINES, GL_LINE_LOOP, GL_LINE_STRIP, GL_TRIANGLES,
-                                                 GL_TRIANGLE_STRIP, GL_TRIANGLE_FAN, GL_QUAD_STRIP, GL_POLYGON}));
+                                                 GL_TRIANGLE_STRIP, GL_TRIANGLE_FAN, GL_QUAD_STRIP}));
         if (pick(2) == 0) attribute(list);
-        for (int vertices = pick(9); vertices > 0; --vertices) {
+        for (int vertices = 4 + pick(6); vertices > 0; --vertices) {
             if (changesAtEachVertex) attribute(list);
             list.glVertex3d(x + number(-1, 1), y + number(-1, 1), z + number(-1, 1));
+        }
+        list.glEnd();
+    }
+
+    void polygon(DisplayList& list) {
+        const double x = number(-4, 4);
+        const double y = number(-3, 3);
+        const int corners = 3 + pick(4);
+        list.glBegin(GL_POLYGON);
+        for (int i = 0; i < corners; ++i) {
+            list.glColor3d(number(0, 1), number(0, 1), number(0, 1));
+            list.glVertex3d(x + std::cos(6.2 * i / corners), y + std::sin(6.2 * i / corners), x - y);
         }
         list.glEnd();
     }
@@ -110,7 +120,8 @@ class RandomList {
                 list.glShadeModel(on ? GL_FLAT : GL_SMOOTH);
                 break;
             case 3:
-                list.glPolygonMode(GL_FRONT_AND_BACK, oneOf(std::array<GLenum, 4>{GL_LINE, GL_POINT, GL_FILL, GL_FILL}));
+                list.glPolygonMode(GL_FRONT_AND_BACK,
+                                   oneOf(std::array<GLenum, 4>{GL_LINE, GL_POINT, GL_FILL, GL_FILL}));
                 break;
             case 4:
                 list.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
@@ -167,10 +178,11 @@ TEST(Replay, DrawsRandomListsAsImmediateModeDoes) {
     for (unsigned seed = 1; seed <= lists; ++seed) {
         const DisplayListPtr body = RandomList(seed).record(60);
         const Difference difference = both.draw(frameOf(body, seed % 3 == 0 ? 2 : 1));
-        EXPECT_LT(difference.share, 0.004) << "seed " << seed;
-        EXPECT_GT(difference.drawnShare, 0.05) << "seed " << seed;
+        // Most lists differ in no pixel. The rest is rounding: of vertices that are placed ahead, and of quads that
+        // are halved along the other diagonal.
+        EXPECT_LT(difference.share, 0.006) << "seed " << seed;
+        EXPECT_GT(difference.drawnShare, 0.02) << "seed " << seed;
         shares += difference.share / lists;
-        if (getenv("SHOW")) printf("%u %d %.5f %.3f\n", seed, difference.largest, difference.share, difference.drawnShare);
     }
     EXPECT_LT(shares, 0.0005);
 }

@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <chrono>
+#include <limits>
 
 #include "qt/window_test.h"
 #include "ui/menu_table.h"
@@ -60,9 +61,9 @@ TEST_F(MainWindowTest, theListTicksByKeyboardAndMirrorsTheLogic) {
     EXPECT_EQ(list->model()->index(0, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
 }
 
-TEST_F(MainWindowTest, aGraphThatCannotBeDrawnIsToldAndStaysUnticked) {
+TEST_F(MainWindowTest, aTickThatFailsIsToldAndTakenBack) {
     addGraph();
-    state.AllGraphs.Graphs[0]->StepU = 7;
+    state.TheData.Reg3DX(0, 0) = std::numeric_limits<double>::infinity();
     asked.clear();
     auto* list = find<QListView>("List1");
     list->setCurrentIndex(list->model()->index(0, 0));
