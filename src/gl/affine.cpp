@@ -49,25 +49,29 @@ void Affine::multiplyLinear(const std::array<double, 9>& right) {
     }
 }
 
-Vector3f Affine::point(const Vector3f& p) const {
-    Vector3f result{};
-    for (std::size_t row = 0; row < 3; ++row)
-        result[row] = static_cast<float>(linear_[3 * row] * p[0] + linear_[3 * row + 1] * p[1] +
-                                         linear_[3 * row + 2] * p[2] + offset_[row]);
-    return result;
+std::array<double, 9> Affine::cofactors() const {
+    const std::array<double, 9>& m = linear_;
+    return {m[4] * m[8] - m[5] * m[7], m[5] * m[6] - m[3] * m[8], m[3] * m[7] - m[4] * m[6],
+            m[2] * m[7] - m[1] * m[8], m[0] * m[8] - m[2] * m[6], m[1] * m[6] - m[0] * m[7],
+            m[1] * m[5] - m[2] * m[4], m[2] * m[3] - m[0] * m[5], m[0] * m[4] - m[1] * m[3]};
+}
+
+double Affine::determinant() const {
+    const std::array<double, 9> c = cofactors();
+    return linear_[0] * c[0] + linear_[1] * c[1] + linear_[2] * c[2];
+}
+
+bool Affine::mirrors() const {
+    return !(determinant() > 0);
 }
 
 std::optional<Affine> Affine::forNormals() const {
-    const std::array<double, 9>& m = linear_;
-    const std::array<double, 9> cofactors{
-        m[4] * m[8] - m[5] * m[7], m[5] * m[6] - m[3] * m[8], m[3] * m[7] - m[4] * m[6],
-        m[2] * m[7] - m[1] * m[8], m[0] * m[8] - m[2] * m[6], m[1] * m[6] - m[0] * m[7],
-        m[1] * m[5] - m[2] * m[4], m[2] * m[3] - m[0] * m[5], m[0] * m[4] - m[1] * m[3]};
-    const double determinant = m[0] * cofactors[0] + m[1] * cofactors[1] + m[2] * cofactors[2];
-    if (determinant == 0 || !std::isfinite(determinant)) return std::nullopt;
+    const double volume = determinant();
+    if (volume == 0 || !std::isfinite(volume)) return std::nullopt;
     Affine normals;
-    for (std::size_t i = 0; i < 9; ++i)
-        normals.linear_[i] = cofactors[i] / determinant;
+    normals.linear_ = cofactors();
+    for (double& number : normals.linear_)
+        number /= volume;
     return normals;
 }
 

@@ -10,6 +10,8 @@
 
 namespace tessaplot::gl {
 
+class GlyphStore;
+
 /// Bits of the vertex attributes beside the position.
 enum Attribute : unsigned { normalAttribute = 1, colorAttribute = 2, texCoordAttribute = 4, allAttributes = 7 };
 
@@ -32,6 +34,8 @@ struct Batch {
     std::size_t place = 0;  ///< Drawn before the call of this number.
     GLenum primitive = 0;   ///< GL_POINTS, GL_LINES, GL_TRIANGLES or GL_QUADS.
     unsigned attributes = 0;
+    bool glyphs = false;          ///< Closed solids, to be filled whatever the polygon mode is.
+    bool spheres = false;         ///< Closed, and seen from outside unless the context's matrices mirror them.
     std::size_t firstVertex = 0;  ///< In the vertices with these attributes.
     std::size_t firstIndex = 0;
     std::size_t indexCount = 0;
@@ -49,8 +53,9 @@ struct CompiledList {
 
 /// Compiles a list for a modelview matrix mode. Drawing the result does what executing the list would do, the state
 /// that it leaves included. Neighbouring primitives of a kind between which no state changes become one batch, spheres
-/// and cylinders become vertices, and what is drawn between glPushMatrix and glPopMatrix is placed here instead.
-CompiledList compileList(const DisplayList& list);
+/// and cylinders become vertices, and what is drawn between glPushMatrix and glPopMatrix is placed here instead. So do
+/// outlined texts if `glyphs` is given.
+CompiledList compileList(const DisplayList& list, GlyphStore* glyphs = nullptr);
 
 /// True if the list itself draws anything that compileList would turn into vertices.
 bool hasGeometry(const DisplayList& list);

@@ -18,6 +18,9 @@ class DrawnArea {
     void includeAll() { all_ = true; }
     /// Vertices within the bounds were drawn with the context's present matrices, viewport and line width.
     void include(const Bounds& bounds);
+    /// True if the present matrices show a closed surface within the bounds from outside only: they do not mirror it,
+    /// and the near plane does not cut it.
+    bool showsOutside(const Bounds& bounds);
     /// The matrices, the viewport or the line width may have changed.
     void placementChanged() { placementKnown_ = false; }
 
@@ -26,11 +29,14 @@ class DrawnArea {
 
  private:
     void readPlacement();
+    /// A coordinate (x, y, z or w) that a corner of the box is clipped by.
+    double clipCoordinate(std::size_t row, const Bounds& bounds, unsigned corner) const;
 
     bool all_ = false;
     std::array<double, 4> box_{1e9, 1e9, -1e9, -1e9};  ///< Left, bottom, right, top in pixels.
     bool placementKnown_ = false;
     std::array<double, 16> toClip_{};  ///< In the order of glMultMatrixf.
+    bool mirrors_ = false;
     std::array<double, 4> viewport_{};
     double margin_ = 0;  ///< Pixels that a line reaches beyond its vertices, at most.
 };

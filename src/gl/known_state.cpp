@@ -44,4 +44,9 @@ bool KnownState::isRepeated(const Operation& operation) {
     return false;
 }
 
+bool KnownState::isDisabled(GLenum capability) const {
+    const Setting disabled{Op::Enable, static_cast<double>(capability), {0, 0}};
+    return std::find(settings_.begin(), settings_.end(), disabled) != settings_.end();
+}
+
 }  // namespace tessaplot::gl

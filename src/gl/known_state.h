@@ -11,6 +11,8 @@ class KnownState {
  public:
     /// True if the operation sets state to what it is known to be; notes what it sets otherwise.
     bool isRepeated(const Operation& operation);
+    /// True if a capability is known to be disabled.
+    bool isDisabled(GLenum capability) const;
     void forget() { settings_.clear(); }
 
  private:

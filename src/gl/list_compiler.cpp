@@ -1,8 +1,12 @@
 #include <algorithm>
+#include <deque>
 #include <iterator>
 
 #include "gl/compiled_list.h"
+#include "gl/glyph_lists.h"
+#include "gl/glyph_store.h"
 #include "gl/known_state.h"
+#include "gl/pending_attributes.h"
 #include "gl/pending_matrix.h"
 #include "gl/primitive_assembly.h"
 #include "gl/quadric_mesh.h"
@@ -12,8 +16,11 @@ namespace tessaplot::gl {
 
 namespace {
 
-/// Spheres and cylinders become vertices up to so many in a list; GLU draws those beyond.
-constexpr std::size_t mostQuadricVertices = 4'000'000;
+/// Spheres, cylinders and glyphs become vertices up to so many in a list; those beyond are drawn each time anew.
+constexpr std::size_t mostMeshVertices = 4'000'000;
+
+/// Of a longer text most is outside the picture, and better left out than made into vertices.
+constexpr std::size_t longestText = 1000;
 
 /// The current normal, colour and texture coordinate; those not known are what they were when the list was called.
 struct CurrentValues {
@@ -102,17 +109,36 @@ bool drawsQuadric(Op op) {
     return op == Op::Sphere || op == Op::Cylinder;
 }
 
+GLenum typeOfText(const Operation& operation) {
+    return static_cast<GLenum>(operation.numbers[1]);
+}
+
+/// An operation of a block, field by field: to copy it whole just after it was made would stall the processor.
+struct BlockCall {
+    explicit BlockCall(const Operation& operation)
+        : numbers(operation.numbers.data()),
+          count(operation.numbers.size()),
+          object(operation.object),
+          op(operation.op) {}
+    Operation operation() const { return {op, {numbers, count}, object}; }
+
+    const double* numbers;
+    std::size_t count;
+    std::size_t object;
+    Op op;
+};
+
 /// Compiles one list, operation by operation.
 class ListCompiler {
  public:
-    explicit ListCompiler(const DisplayList& source) : source_(source) {}
+    ListCompiler(const DisplayList& source, GlyphStore* glyphs) : source_(source), glyphs_(glyphs) {}
 
     void take(const Operation& operation);
     CompiledList finish();
 
  private:
-    /// Whether polygons are filled.
-    enum class Filling { Inherited, On, Off };
+    /// Whether polygons are filled: as when the list was called, yes, or perhaps not.
+    enum class Filling { Inherited, On, Uncertain };
 
     void takeOutside(const Operation& operation);
     static Filling fillingBy(const Operation& polygonMode);
@@ -126,9 +152,15 @@ class ListCompiler {
 
     bool drawQuadric(const Operation& operation);
     void drawTwoKinds(const QuadricMesh& mesh);
-    void appendFaces(const QuadricMesh& mesh, GLenum kind, const std::vector<std::uint32_t>& faces);
+    bool drawText(const Operation& operation);
+    std::size_t outlineVertices(const Operation& operation, bool& onlyOutlines) const;
+    void drawGlyph(const GlyphMesh& mesh);
+    void appendUnlitGlyph(const GlyphMesh& mesh);
+    bool hasRoomFor(std::size_t vertices);
+    template <class Mesh>
+    void appendFaces(const Mesh& mesh, GLenum kind, const std::vector<std::uint32_t>& faces, bool glyphs = false);
 
-    void openBatch(GLenum kind, unsigned attributes, std::size_t vertices);
+    void openBatch(GLenum kind, unsigned attributes, std::size_t vertices, bool glyphs = false);
     void flushBatch();
     void appendVertices(Batch& batch);
 
@@ -138,16 +170,18 @@ class ListCompiler {
     void pass(Attribute attribute, const Vertex& value);
 
     const DisplayList& source_;
+    GlyphStore* glyphs_;
     CompiledList result_;
 
     CurrentValues current_;  ///< What immediate mode would hold now.
     CurrentValues passed_;   ///< What the context is known to hold once the calls kept so far are made.
     KnownState state_;
     PendingMatrix matrix_;
+    PendingAttributes attributes_;
     GLenum matrixMode_ = GL_MODELVIEW;
 
     bool inBlock_ = false;
-    std::vector<Operation> block_;
+    std::vector<BlockCall> block_;
     std::vector<Vertex> blockVertices_;
     CurrentValues afterBlock_;
 
@@ -158,7 +192,9 @@ class ListCompiler {
     Filling filling_ = Filling::Inherited;
     QuadricMeshes quadrics_;
     std::vector<std::uint32_t> halves_;
-    std::size_t quadricVertices_ = 0;
+    bool spheres_ = false;                        ///< What is appended is spheres.
+    std::deque<std::array<double, 3>> advances_;  ///< Numbers of the matrix calls that glyphs stand for.
+    std::size_t meshVertices_ = 0;
 };
 
 void ListCompiler::take(const Operation& operation) {
@@ -167,7 +203,7 @@ void ListCompiler::take(const Operation& operation) {
         takeOutside(operation);
         return;
     }
-    block_.push_back(operation);
+    block_.emplace_back(operation);
     if (operation.op == Op::End) closeBlock();
 }
 
@@ -178,7 +214,9 @@ void ListCompiler::takeOutside(const Operation& operation) {
     }
     if (operation.op == Op::NewQuadric || operation.op == Op::DeleteQuadric) return;
     if (matrixMode_ == GL_MODELVIEW && matrix_.take(operation)) return;
+    if (attributes_.take(operation)) return;
     if (drawsQuadric(operation.op) && drawQuadric(operation)) return;
+    if (operation.op == Op::CallListsText && drawText(operation)) return;
     if (state_.isRepeated(operation)) return;
     keep(operation);
     if (operation.op == Op::MatrixMode) matrixMode_ = static_cast<GLenum>(operation.numbers[0]);
@@ -187,7 +225,7 @@ void ListCompiler::takeOutside(const Operation& operation) {
 
 ListCompiler::Filling ListCompiler::fillingBy(const Operation& polygonMode) {
     const bool all = static_cast<GLenum>(polygonMode.numbers[0]) == GL_FRONT_AND_BACK;
-    return all && static_cast<GLenum>(polygonMode.numbers[1]) == GL_FILL ? Filling::On : Filling::Off;
+    return all && static_cast<GLenum>(polygonMode.numbers[1]) == GL_FILL ? Filling::On : Filling::Uncertain;
 }
 
 void ListCompiler::setCurrent(const Operation& operation) {
@@ -197,7 +235,7 @@ void ListCompiler::setCurrent(const Operation& operation) {
 void ListCompiler::closeBlock() {
     inBlock_ = false;
     const bool plain = readBlock();
-    const auto mode = static_cast<GLenum>(block_.front().numbers[0]);
+    const auto mode = static_cast<GLenum>(*block_.front().numbers);
     const std::optional<GLenum> kind = independentKind(mode, blockVertices_.size());
     if (plain && kind)
         drawBlock(mode, *kind);
@@ -214,14 +252,14 @@ bool ListCompiler::readBlock() {
     afterBlock_ = current_;
     Vertex& values = afterBlock_.values;
     unsigned known = 0;
-    for (const Operation& operation : std::span(block_).subspan(1, block_.size() - 2)) {
-        if (operation.op == Op::Vertex3d) {
-            const std::span<const double> n = operation.numbers;
-            values.position = {static_cast<float>(n[0]), static_cast<float>(n[1]), static_cast<float>(n[2])};
+    for (const BlockCall& call : std::span(block_).subspan(1, block_.size() - 2)) {
+        if (call.op == Op::Vertex3d) {
+            const double* n = call.numbers;
             if (blockVertices_.empty()) known = afterBlock_.known;
-            blockVertices_.push_back(values);
+            Vertex& vertex = blockVertices_.emplace_back(values);
+            vertex.position = {static_cast<float>(n[0]), static_cast<float>(n[1]), static_cast<float>(n[2])};
         } else {
-            const unsigned attribute = takeAttribute(operation, values);
+            const unsigned attribute = takeAttribute(call.operation(), values);
             afterBlock_.known |= attribute;
             if (attribute == 0) plain = false;
         }
@@ -258,9 +296,9 @@ void ListCompiler::keepBlock() {
     flushBatch();
     passCurrentValues();
     flushMatrix();
-    for (const Operation& operation : block_) {
-        result_.calls.append(source_, operation);
-        setCurrent(operation);
+    for (const BlockCall& call : block_) {
+        result_.calls.append(source_, call.operation());
+        setCurrent(call.operation());
     }
     passed_ = current_;
 }
@@ -271,8 +309,7 @@ bool ListCompiler::drawQuadric(const Operation& operation) {
     const QuadricMesh& mesh = operation.op == Op::Sphere ? quadrics_.sphere(n[0], count(1), count(2))
                                                          : quadrics_.cylinder(n[0], n[1], n[2], count(3), count(4));
     if (mesh.triangles.empty() && mesh.quads.empty()) return true;
-    quadricVertices_ += mesh.positions.size();
-    if (quadricVertices_ > mostQuadricVertices || mesh.positions.size() > VertexPool::capacity) return false;
+    if (mesh.positions.size() > VertexPool::capacity || !hasRoomFor(mesh.positions.size())) return false;
     if (!matrix_.normalPlacement()) flushMatrix();
     if (mesh.triangles.empty())
         appendFaces(mesh, GL_QUADS, mesh.quads);
@@ -286,7 +323,7 @@ bool ListCompiler::drawQuadric(const Operation& operation) {
 /// Quads are halved to be of one kind with the triangles, so that all spheres come into one batch, unless one would see
 /// the halves.
 void ListCompiler::drawTwoKinds(const QuadricMesh& mesh) {
-    if (filling_ == Filling::Off) {
+    if (filling_ == Filling::Uncertain) {
         appendFaces(mesh, GL_TRIANGLES, mesh.triangles);
         appendFaces(mesh, GL_QUADS, mesh.quads);
         return;
@@ -297,32 +334,96 @@ void ListCompiler::drawTwoKinds(const QuadricMesh& mesh) {
         const auto corner = [&mesh, i](std::size_t k) { return mesh.quads[i + k]; };
         halves_.insert(halves_.end(), {corner(0), corner(1), corner(3), corner(1), corner(2), corner(3)});
     }
+    spheres_ = !matrix_.placement().mirrors();
     appendFaces(mesh, GL_TRIANGLES, halves_);
+    spheres_ = false;
 }
 
-void ListCompiler::appendFaces(const QuadricMesh& mesh, GLenum kind, const std::vector<std::uint32_t>& faces) {
-    openBatch(kind, current_.known | normalAttribute, mesh.positions.size());
-    const Affine& placement = matrix_.placement();
-    const Affine& normals = *matrix_.normalPlacement();
-    const bool turns = !placement.keepsDirections();
+bool ListCompiler::hasRoomFor(std::size_t vertices) {
+    meshVertices_ += vertices;
+    return meshVertices_ <= mostMeshVertices;
+}
+
+/// False for a text that is better drawn each time it is called.
+bool ListCompiler::drawText(const Operation& operation) {
+    if (glyphs_ == nullptr || !attributes_.listBase() || matrixMode_ != GL_MODELVIEW) return false;
+    if (source_.text(operation.object).size() > longestText) return false;
+    bool onlyOutlines = true;
+    if (!hasRoomFor(outlineVertices(operation, onlyOutlines)) || !onlyOutlines) return false;
+    if (!matrix_.normalPlacement()) flushMatrix();
+    forEachGlyph(*attributes_.listBase(), typeOfText(operation), source_.text(operation.object),
+                 [this](const GlyphName& glyph) {
+                     if (const GlyphMesh* mesh = glyphs_->mesh(glyph.code)) drawGlyph(*mesh);
+                 });
+    return true;
+}
+
+std::size_t ListCompiler::outlineVertices(const Operation& operation, bool& onlyOutlines) const {
+    std::size_t vertices = 0;
+    forEachGlyph(*attributes_.listBase(), typeOfText(operation), source_.text(operation.object),
+                 [&](const GlyphName& glyph) {
+                     if (glyph.kind != GlyphKind::Outline) onlyOutlines = false;
+                     const GlyphMesh* mesh = glyphs_->mesh(glyph.code);
+                     if (mesh != nullptr) vertices += mesh->positions.size();
+                 });
+    return vertices;
+}
+
+void ListCompiler::drawGlyph(const GlyphMesh& mesh) {
+    if (!mesh.triangles.empty()) {
+        if (state_.isDisabled(GL_LIGHTING))
+            appendUnlitGlyph(mesh);
+        else
+            appendFaces(mesh, GL_TRIANGLES, mesh.triangles, true);
+        current_.known |= normalAttribute;
+        current_.values.normal = mesh.normals[mesh.triangles.back()];
+    }
+    advances_.push_back({mesh.advance, 0, 0});
+    matrix_.take({Op::Translatef, advances_.back(), 0});
+}
+
+/// Without light the normals do not matter, and the corners of the solid suffice.
+void ListCompiler::appendUnlitGlyph(const GlyphMesh& mesh) {
+    openBatch(GL_TRIANGLES, current_.known & ~static_cast<unsigned>(normalAttribute), mesh.points.size(), true);
     const std::size_t first = pool_.vertices().size();
     Vertex vertex = current_.values;
-    for (std::size_t i = 0; i < mesh.positions.size(); ++i) {
-        vertex.position = placement.point(mesh.positions[i]);
-        vertex.normal = turns ? normals.point(mesh.normals[i]) : mesh.normals[i];
+    for (const Vector3f& point : mesh.points) {
+        vertex.position = matrix_.placement().point(point);
         pool_.append(vertex);
     }
-    for (const std::uint32_t index : faces)
+    for (const std::uint32_t index : mesh.surface)
         batchIndices_.push_back(static_cast<std::uint16_t>(first + index));
 }
 
+template <class Mesh>
+void ListCompiler::appendFaces(const Mesh& mesh, GLenum kind, const std::vector<std::uint32_t>& faces, bool glyphs) {
+    openBatch(kind, current_.known | normalAttribute, mesh.positions.size(), glyphs);
+    const Affine& placement = matrix_.placement();
+    const Affine& normals = *matrix_.normalPlacement();
+    const bool turns = !placement.keepsDirections();
+    const std::size_t first = pool_.extend(mesh.positions.size());
+    for (std::size_t i = 0; i < mesh.positions.size(); ++i) {
+        Vertex& vertex = pool_[first + i];
+        vertex = current_.values;
+        vertex.position = turns ? placement.point(mesh.positions[i]) : placement.moved(mesh.positions[i]);
+        vertex.normal = turns ? normals.point(mesh.normals[i]) : mesh.normals[i];
+    }
+    const std::size_t index = batchIndices_.size();
+    batchIndices_.resize(index + faces.size());
+    std::transform(faces.begin(), faces.end(), batchIndices_.begin() + static_cast<std::ptrdiff_t>(index),
+                   [first](std::uint32_t vertex) { return static_cast<std::uint16_t>(first + vertex); });
+}
+
 /// Makes sure that the open batch can take vertices of this sort.
-void ListCompiler::openBatch(GLenum kind, unsigned attributes, std::size_t vertices) {
-    const bool fits = batch_.primitive == kind && batch_.attributes == attributes && pool_.room() >= vertices;
+void ListCompiler::openBatch(GLenum kind, unsigned attributes, std::size_t vertices, bool glyphs) {
+    const bool fits = batch_.primitive == kind && batch_.attributes == attributes && batch_.glyphs == glyphs &&
+                      batch_.spheres == spheres_ && pool_.room() >= vertices;
     if (batchIndices_.empty() || !fits) {
         flushBatch();
         batch_.primitive = kind;
         batch_.attributes = attributes;
+        batch_.glyphs = glyphs;
+        batch_.spheres = spheres_;
     }
 }
 
@@ -356,15 +457,18 @@ void ListCompiler::appendVertices(Batch& batch) {
     std::vector<float>& numbers = result_.vertices[batch.attributes];
     const std::size_t size = numbersOfVertex(batch.attributes);
     batch.firstVertex = numbers.size() / size;
-    const auto append = [&numbers](const auto& values) { numbers.insert(numbers.end(), values.begin(), values.end()); };
+    numbers.resize(numbers.size() + size * pool_.vertices().size());
+    float* out = numbers.data() + size * batch.firstVertex;
+    const auto append = [&out](const auto& values) { out = std::copy(values.begin(), values.end(), out); };
+    Bounds& bounds = batch.bounds;
     for (const Vertex& vertex : pool_.vertices()) {
         append(vertex.position);
         if ((batch.attributes & normalAttribute) != 0) append(vertex.normal);
         if ((batch.attributes & colorAttribute) != 0) append(vertex.color);
         if ((batch.attributes & texCoordAttribute) != 0) append(vertex.texCoord);
         for (std::size_t k = 0; k < 3; ++k) {
-            batch.bounds.low[k] = std::min(batch.bounds.low[k], vertex.position[k]);
-            batch.bounds.high[k] = std::max(batch.bounds.high[k], vertex.position[k]);
+            bounds.low[k] = std::min(bounds.low[k], vertex.position[k]);
+            bounds.high[k] = std::max(bounds.high[k], vertex.position[k]);
         }
     }
 }
@@ -374,6 +478,7 @@ void ListCompiler::keep(const Operation& operation) {
     flushBatch();
     passCurrentValues();
     if (needsMatrix(operation)) flushMatrix();
+    attributes_.release(result_.calls);
     result_.calls.append(source_, operation);
     if (drawsQuadric(operation.op)) {
         current_.known &= ~static_cast<unsigned>(normalAttribute);
@@ -383,7 +488,8 @@ void ListCompiler::keep(const Operation& operation) {
         current_.known = 0;
         passed_.known = 0;
         state_.forget();
-        filling_ = Filling::Inherited;
+        attributes_.forget();
+        filling_ = Filling::Uncertain;
     }
 }
 
@@ -412,22 +518,24 @@ CompiledList ListCompiler::finish() {
     flushBatch();
     passCurrentValues();
     flushMatrix();
+    attributes_.release(result_.calls);
     if (inBlock_) keepBlock();
     return std::move(result_);
 }
 
 }  // namespace
 
-CompiledList compileList(const DisplayList& list) {
-    ListCompiler compiler(list);
+CompiledList compileList(const DisplayList& list, GlyphStore* glyphs) {
+    ListCompiler compiler(list, glyphs);
     list.forEach([&compiler](const Operation& operation) { compiler.take(operation); });
     return compiler.finish();
 }
 
 bool hasGeometry(const DisplayList& list) {
     bool found = false;
-    list.forEach(
-        [&found](const Operation& operation) { found |= operation.op == Op::Vertex3d || drawsQuadric(operation.op); });
+    list.forEach([&found](const Operation& operation) {
+        found |= operation.op == Op::Vertex3d || operation.op == Op::CallListsText || drawsQuadric(operation.op);
+    });
     return found;
 }
 

@@ -8,6 +8,7 @@
 #include "gl/canvas.h"
 #include "gl/execute.h"
 #include "gl/gl_calls.h"
+#include "gl/glyph_drawing.h"
 #include "gl/list_buffers.h"
 #include "gl/texture_store.h"
 
@@ -21,6 +22,22 @@ bool polygonsAreFilled() {
     return modes[0] == GL_FILL && modes[1] == GL_FILL;
 }
 
+/// True if the back of a closed surface never shows behind its front. Backs are culled then: small spheres consist of
+/// many triangles, and half of them look away.
+bool solidsHideTheirBacks() {
+    GLboolean writesDepth = GL_FALSE;
+    glGetBooleanv(GL_DEPTH_WRITEMASK, &writesDepth);
+    return writesDepth == GL_TRUE && glIsEnabled(GL_DEPTH_TEST) == GL_TRUE && glIsEnabled(GL_BLEND) == GL_FALSE &&
+           glIsEnabled(GL_CULL_FACE) == GL_FALSE;
+}
+
+/// Of a solid in one colour, which has no normals, the sides that look away change nothing.
+void beginGlyphs(const Batch& batch) {
+    glPushAttrib(GL_POLYGON_BIT);
+    glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    if ((batch.attributes & normalAttribute) == 0) glEnable(GL_CULL_FACE);
+}
+
 }  // namespace
 
 /// The compiled lists, the textures and the canvas of one context.
@@ -31,6 +48,7 @@ class Replay::Drawing {
     bool draw(const DisplayList& frame, int width, int height);
     const Canvas& canvas() const { return canvas_; }
     const Counts& counts() const { return counts_; }
+    const std::string& trouble() const { return glyphs_.trouble(); }
 
  private:
     struct Compiled {
@@ -42,10 +60,12 @@ class Replay::Drawing {
     void execute(const DisplayList& list);
     void execute(const ListBuffers& list);
     void perform(const DisplayList& list, const Operation& operation);
+    void beginDirectDrawing();
     void call(const DisplayListPtr& list);
     const ListBuffers* buffersOf(const DisplayListPtr& list);
     void drawBatch(const ListBuffers& list, const Batch& batch);
 
+    GlyphStore glyphs_;
     std::optional<DisplayList> lastFrame_;
     std::unordered_map<const DisplayList*, Compiled> compiled_;
     TextureStore textures_;
@@ -111,6 +131,9 @@ void Replay::Drawing::perform(const DisplayList& list, const Operation& operatio
             call(list.called(operation.object));
             return;
         case Op::CallListsText:
+            beginDirectDrawing();
+            drawText(glyphs_, static_cast<GLenum>(operation.numbers[1]), list.text(operation.object));
+            canvas_.drawnArea().placementChanged();
             return;
         case Op::TexImage2D:
             textures_.bind(list.image(operation.object));
@@ -127,12 +150,14 @@ void Replay::Drawing::perform(const DisplayList& list, const Operation& operatio
         default:
             break;
     }
-    if (drawsDirectly(operation.op)) {
-        canvas_.beforeDrawing();
-        canvas_.drawnArea().includeAll();
-    }
+    if (drawsDirectly(operation.op)) beginDirectDrawing();
     executeCall(operation);
     if (changesPlacement(operation.op)) canvas_.drawnArea().placementChanged();
+}
+
+void Replay::Drawing::beginDirectDrawing() {
+    canvas_.beforeDrawing();
+    canvas_.drawnArea().includeAll();
 }
 
 void Replay::Drawing::call(const DisplayListPtr& list) {
@@ -150,7 +175,7 @@ const ListBuffers* Replay::Drawing::buffersOf(const DisplayListPtr& list) {
     const auto known = compiled_.find(list.get());
     if (known != compiled_.end() && !known->second.source.expired()) return known->second.buffers.get();
     if (!hasGeometry(*list)) return nullptr;
-    auto buffers = std::make_unique<ListBuffers>(compileList(*list));
+    auto buffers = std::make_unique<ListBuffers>(compileList(*list, &glyphs_));
     ++counts_.compiled;
     Compiled& entry = compiled_[list.get()];
     entry = {list, std::move(buffers)};
@@ -160,7 +185,12 @@ const ListBuffers* Replay::Drawing::buffersOf(const DisplayListPtr& list) {
 void Replay::Drawing::drawBatch(const ListBuffers& list, const Batch& batch) {
     canvas_.beforeDrawing();
     canvas_.drawnArea().include(batch.bounds);
+    if (batch.glyphs) beginGlyphs(batch);
+    const bool culls = batch.spheres && solidsHideTheirBacks() && canvas_.drawnArea().showsOutside(batch.bounds);
+    if (culls) glEnable(GL_CULL_FACE);
     list.draw(batch);
+    if (culls) glDisable(GL_CULL_FACE);
+    if (batch.glyphs) glPopAttrib();
     ++counts_.drawCalls;
 }
 
@@ -186,6 +216,10 @@ int Replay::width() const {
 
 int Replay::height() const {
     return drawing_->canvas().height();
+}
+
+const std::string& Replay::trouble() const {
+    return drawing_->trouble();
 }
 
 const Replay::Counts& Replay::counts() const {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include <GL/gl.h>
@@ -39,6 +40,9 @@ class Replay {
     std::vector<std::uint8_t> readPixels() const;
     int width() const;
     int height() const;
+
+    /// Why the pictures lack their texts, for a person to read; empty if they do not.
+    const std::string& trouble() const;
 
     /// What was done since the replay was made.
     struct Counts {

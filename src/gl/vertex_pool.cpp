@@ -38,6 +38,12 @@ std::uint16_t VertexPool::append(const Vertex& vertex) {
     return static_cast<std::uint16_t>(vertices_.size() - 1);
 }
 
+std::uint16_t VertexPool::extend(std::size_t count) {
+    const auto first = static_cast<std::uint16_t>(vertices_.size());
+    vertices_.resize(vertices_.size() + count);
+    return first;
+}
+
 void VertexPool::clear() {
     vertices_.clear();
     if (++generation_ != 0) return;

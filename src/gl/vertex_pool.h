@@ -28,6 +28,10 @@ class VertexPool {
     std::uint16_t add(const Vertex& vertex);
     /// Adds without looking for its like.
     std::uint16_t append(const Vertex& vertex);
+    /// Adds `count` vertices without looking for their likes, to be filled by the caller: returns the first one's
+    /// number.
+    std::uint16_t extend(std::size_t count);
+    Vertex& operator[](std::size_t number) { return vertices_[number]; }
     void clear();
 
     std::size_t room() const { return capacity - vertices_.size(); }
