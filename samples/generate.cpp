@@ -5,6 +5,7 @@
 
 #include "base/color.h"
 #include "sample_builder.h"
+#include "surfaces.h"
 
 namespace {
 
@@ -81,6 +82,7 @@ int main(int argc, char** argv) {
         writeGridVertex(folder);
         writeCylinder(folder);
         writeSphere(folder);
+        tessaplot::samples::writeSurfaces(folder);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "tessaplot-samples: %s\n", failure.what());
         return 1;

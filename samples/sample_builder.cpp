@@ -24,6 +24,13 @@ SampleBuilder::SampleBuilder(int sceneMode) {
     state_.TheAxis.SetDefault();
 }
 
+void SampleBuilder::setRow(int at, const Row& row) {
+    state_.panel.setCell(1, at, typed(row.first));
+    state_.panel.setCell(2, at, typed(row.second));
+    state_.panel.setCell(3, at, typed(row.third));
+    state_.panel.setCell(4, at, typed(row.fourth));
+}
+
 void SampleBuilder::regularSurface(data::DataKind kind, int rows, int columns,
                                    const std::function<Row(double, double)>& node) {
     state_.panel.selectKind(kind);
@@ -31,18 +38,29 @@ void SampleBuilder::regularSurface(data::DataKind kind, int rows, int columns,
     state_.panel.setText(2, std::to_string(columns));
     state_.panel.layOut();
     int at = 0;
-    for (int i = 0; i < rows; ++i) {
-        for (int j = 0; j < columns; ++j) {
-            const Row row = node(i / (rows - 1.0), j / (columns - 1.0));
-            ++at;
-            state_.panel.setCell(1, at, typed(row.first));
-            state_.panel.setCell(2, at, typed(row.second));
-            state_.panel.setCell(3, at, typed(row.third));
-            state_.panel.setCell(4, at, typed(row.fourth));
-        }
-    }
+    for (int i = 0; i < rows; ++i)
+        for (int j = 0; j < columns; ++j)
+            setRow(++at, node(i / (rows - 1.0), j / (columns - 1.0)));
     lastU_ = rows - 1;
     lastV_ = columns - 1;
+}
+
+void SampleBuilder::irregularSurface(const std::vector<Row>& points, const Lattice& lattice) {
+    data::DataPanel& panel = state_.panel;
+    panel.selectKind(data::DataKind::IrregularSurface);
+    panel.setText(3, std::to_string(points.size()));
+    panel.setText(4, std::to_string(lattice.countX));
+    panel.setText(7, std::to_string(lattice.countY));
+    panel.setText(1, typed(lattice.minX));
+    panel.setText(2, typed(lattice.maxX));
+    panel.setText(5, typed(lattice.minY));
+    panel.setText(6, typed(lattice.maxY));
+    panel.layOut();
+    int at = 0;
+    for (const Row& point : points)
+        setRow(++at, point);
+    lastU_ = lattice.countX - 1;
+    lastV_ = lattice.countY - 1;
 }
 
 graphs::Cls9& SampleBuilder::add(int graphType, const std::string& name) {

@@ -2,8 +2,8 @@
 
 #include <filesystem>
 #include <functional>
-#include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "core/app_state.h"
 #include "data/data_kind.h"
@@ -19,6 +19,16 @@ struct Row {
     double fourth = 0;
 };
 
+/// The grid that scattered points are brought to: counts of nodes and limits along the first and the second axis.
+struct Lattice {
+    int countX = 0;
+    int countY = 0;
+    double minX = 0;
+    double maxX = 0;
+    double minY = 0;
+    double maxY = 0;
+};
+
 /// Puts one sample document together and writes it the way the program saves.
 class SampleBuilder {
  public:
@@ -26,6 +36,8 @@ class SampleBuilder {
 
     /// A regular surface of `rows` by `columns` nodes; `node(u, v)` is asked with u and v from 0 to 1.
     void regularSurface(data::DataKind kind, int rows, int columns, const std::function<Row(double, double)>& node);
+    /// Scattered points of a Cartesian surface.
+    void irregularSurface(const std::vector<Row>& points, const Lattice& lattice);
     /// Adds a graph of a kind with its steps set for the data; the reference is good until the next one is added.
     graphs::Cls9& add(int graphType, const std::string& name);
     void titles(const std::string& x, const std::string& y, const std::string& z);
@@ -34,6 +46,8 @@ class SampleBuilder {
     void write(const std::filesystem::path& path) const;
 
  private:
+    void setRow(int at, const Row& row);
+
     core::AppState state_;
     int lastU_ = 1;
     int lastV_ = 1;

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/failure.h"
@@ -13,6 +14,7 @@
 #include "gl/offscreen_context.h"
 #include "gl/replay.h"
 #include "pictures/picture_file.h"
+#include "pictures/picture_reader.h"
 #include "report.h"
 
 namespace tessaplot::cli {
@@ -22,8 +24,17 @@ namespace {
 using base::Failure;
 using base::FailureCode;
 
+/// Messages go to standard error, one a line; what a person would be asked is left to the default.
+platform::Answer tell(const platform::Message& message) {
+    std::fprintf(stderr, "tessaplot-cli: %s\n", message.text.c_str());
+    return platform::Desktop{}.askUser(message);
+}
+
 /// Opens the document as the window does.
 void open(core::AppState& state, const std::filesystem::path& path, int width, int height) {
+    state.desktop.ask = tell;
+    state.desktop.showStatus = [](std::string_view text) { tell({{}, std::string(text)}); };
+    state.desktop.loadPicture = pictures::readPicture;
     state.TheView.SetScreen(width, height);
     state.TheAxis.Show = true;
     if (core::LoadDocument(state, path) != core::LoadResult::Loaded)
@@ -59,6 +70,7 @@ void render(const RenderOptions& options) {
     const gl::OffscreenContext context;
     gl::Replay replay;
     replay.draw(core::recordDisplay(state), options.width, options.height);
+    if (!replay.trouble().empty()) tell({{}, replay.trouble()});
     const std::vector<std::uint8_t> pixels = replay.readPixels();
     pictures::writePicture(options.picture, {pixels, replay.width(), replay.height(), 3});
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include "core/graph_list.h"
@@ -7,7 +10,9 @@
 #include "data/data_panel.h"
 #include "data/data_set.h"
 #include "data/scaling.h"
+#include "geometry/delaunay.h"
 #include "gl/display_list.h"
+#include "graphs/texture.h"
 #include "platform/desktop.h"
 #include "scene/axis.h"
 #include "scene/box.h"
@@ -25,6 +30,8 @@ struct CompiledScene {
     gl::DisplayListPtr body;     ///< Graphs and frame; the same for every sample and every camera.
     gl::DisplayListPtr legends;  ///< Overlaid after the accumulation.
     gl::DisplayListPtr list900;
+    /// Names the shown graphs that do not fit the data and are left out; empty for none.
+    std::string misfits;
 };
 
 /// The one state of the program: made once at the start, owns everything, passed by reference.
@@ -40,6 +47,9 @@ struct AppState {
     scene::Cls3 TheAxis;
     data::DataPanel panel;
     data::ClsData TheData;
+    /// The triangles of the last triangulation; they name points of the data set from 1.
+    std::vector<geometry::Triangle> TriangleList;
+    int TriangleCount() const { return static_cast<int>(TriangleList.size()); }
     int LastGraphId = 0;
     scene::Cls4 TheView;
     scene::Cls10 TheLight;
@@ -53,8 +63,12 @@ struct AppState {
 
     CompiledScene compiled;
     platform::Desktop desktop;
+    std::shared_ptr<graphs::TextureCache> textures = std::make_shared<graphs::TextureCache>();
+    std::filesystem::path documentFolder;  ///< Of the document opened last: its textures may lie there.
 
-    graphs::GraphContext graphContext() const { return {TheData, panel.kind(), scaling, scene}; }
+    graphs::GraphContext graphContext() const {
+        return {TheData, panel.kind(), scaling, scene, TriangleList, &desktop, textures.get(), documentFolder};
+    }
 };
 
 }  // namespace tessaplot::core

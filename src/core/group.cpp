@@ -19,6 +19,28 @@ void requireFinite(const scene::Cls1& box) {
             throw base::Failure(base::FailureCode::Overflow, "The box of the graphs is not finite.");
 }
 
+/// Runs `work`, which reads the data set for a graph. If that needs what the data set does not hold, the reason comes
+/// back; otherwise an empty text.
+template <class Work>
+std::string misfitOf(Work&& work) {
+    try {
+        work();
+    } catch (const base::Failure& failure) {
+        if (failure.code() != base::FailureCode::SubscriptOutOfRange) throw;
+        return failure.what();
+    }
+    return {};
+}
+
+void widen(scene::Cls1& box, const scene::Cls1& one) {
+    box.MinX = std::min(box.MinX, one.MinX);
+    box.MaxX = std::max(box.MaxX, one.MaxX);
+    box.MinY = std::min(box.MinY, one.MinY);
+    box.MaxY = std::max(box.MaxY, one.MaxY);
+    box.MinZ = std::min(box.MinZ, one.MinZ);
+    box.MaxZ = std::max(box.MaxZ, one.MaxZ);
+}
+
 }  // namespace
 
 bool Cls8::contains(const graphs::Cls9& graph) const {
@@ -39,28 +61,29 @@ scene::Cls1 Cls8::GetBox(const graphs::GraphContext& context) const {
     scene::Cls1 box;
     box.MinX = box.MinY = box.MinZ = startLimit;
     box.MaxX = box.MaxY = box.MaxZ = -startLimit;
-    for (const GraphPtr& graph : Graphs) {
-        const scene::Cls1 one = graph->GetBox(context);
-        box.MinX = std::min(box.MinX, one.MinX);
-        box.MaxX = std::max(box.MaxX, one.MaxX);
-        box.MinY = std::min(box.MinY, one.MinY);
-        box.MaxY = std::max(box.MaxY, one.MaxY);
-        box.MinZ = std::min(box.MinZ, one.MinZ);
-        box.MaxZ = std::max(box.MaxZ, one.MaxZ);
-    }
-    for (double* minimum : {&box.MinX, &box.MinY, &box.MinZ}) *minimum -= margin;
-    for (double* maximum : {&box.MaxX, &box.MaxY, &box.MaxZ}) *maximum += margin;
+    for (const GraphPtr& graph : Graphs)
+        static_cast<void>(misfitOf([&] { widen(box, graph->GetBox(context)); }));
+    for (double* minimum : {&box.MinX, &box.MinY, &box.MinZ})
+        *minimum -= margin;
+    for (double* maximum : {&box.MaxX, &box.MaxY, &box.MaxZ})
+        *maximum += margin;
     requireFinite(box);
     return box;
 }
 
-std::vector<gl::DisplayListPtr> Cls8::Draw(const graphs::GraphContext& context) const {
-    std::vector<gl::DisplayListPtr> drawn;
+std::vector<DrawnGraph> Cls8::Draw(const graphs::GraphContext& context) const {
+    std::vector<DrawnGraph> drawn;
     drawn.reserve(Graphs.size());
     for (const GraphPtr& graph : Graphs) {
-        auto list = std::make_shared<gl::DisplayList>();
-        graph->Draw(*list, context);
-        drawn.push_back(std::move(list));
+        gl::DisplayList list;
+        gl::DisplayList legend;
+        std::string misfit = misfitOf([&] {
+            graph->Draw(list, context);
+            graph->DrawLegend(legend, context);
+        });
+        if (!misfit.empty()) list = legend = {};
+        drawn.push_back({graph, std::make_shared<gl::DisplayList>(std::move(list)),
+                         std::make_shared<gl::DisplayList>(std::move(legend)), std::move(misfit)});
     }
     return drawn;
 }

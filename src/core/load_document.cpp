@@ -4,6 +4,7 @@
 
 #include "core/document.h"
 #include "core/refresh.h"
+#include "core/triangulation.h"
 
 namespace tessaplot::core {
 
@@ -45,6 +46,12 @@ void takeVolumeSteps(AppState& state) {
         if (isVolumePlot(*graph)) graph->StepH = state.TheData.StepsZ - 1;
 }
 
+/// Triangles are made for the graph read last alone; one that stands before others shows none until it is recomputed.
+void triangulateForLastGraph(AppState& state) {
+    const auto& graphs = state.AllGraphs.Graphs;
+    if (!graphs.empty() && graphs.back()->GraphType == graphs::graph_type::delaunay) triangulatePoints(state);
+}
+
 /// Ticks every entry. The view is fitted to the first graph alone, as its tick would do; the scene is compiled once.
 void tickAll(AppState& state) {
     for (GraphList::Entry& entry : state.List1.entries) {
@@ -60,16 +67,20 @@ void tickAll(AppState& state) {
 }
 
 void untickAll(AppState& state) {
-    for (GraphList::Entry& entry : state.List1.entries) entry.ticked = false;
+    for (GraphList::Entry& entry : state.List1.entries)
+        entry.ticked = false;
     state.ShownGraphs.Graphs.clear();
     RebuildScene(state);
     state.desktop.displayPicture();
 }
 
 void showAllGraphs(AppState& state) {
+    // Should the panel fail, no graph of this document may be drawn from the data of the one before.
+    state.TheData = {};
     state.TheData.GetData(state.panel, state.scaling, state.gridding, state.desktop);
     takeVolumeSteps(state);
     state.FitOnRefresh = true;
+    triangulateForLastGraph(state);
     try {
         tickAll(state);
     } catch (...) {
@@ -89,6 +100,8 @@ LoadResult LoadDocument(AppState& state, const std::filesystem::path& path) {
         document = readDocument(text);
     }
     DeleteAllGraphs(state);
+    state.TriangleList.clear();
+    state.documentFolder = path.parent_path();
     state.LastGraphId = 0;
     if (!document) return LoadResult::UnknownTag;
 

@@ -1,10 +1,13 @@
 #include "core/refresh.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <memory>
 #include <span>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace tessaplot::core {
 
@@ -32,19 +35,53 @@ std::function<scene::Cls1()> boxOfShown(const AppState& state) {
     return [&state] { return state.ShownGraphs.GetBox(state.graphContext()); };
 }
 
+void recordFrame(DisplayList& frame, AppState& state) {
+    constexpr int mode = 2;
+    state.SceneBox = state.ShownGraphs.GetBox(state.graphContext());
+    const scene::Cls1& box = state.SceneBox;
+    const scene::AxisScales scales{state.scaling.ScaleX, state.scaling.ScaleY, state.scaling.ScaleZ};
+    state.TheAxis.Draw(frame, state.scene, scales, mode, box.MinX, box.MaxX, box.MinY, box.MaxY, box.MinZ, box.MaxZ);
+}
+
+bool fits(const DrawnGraph& drawn) {
+    return drawn.misfit.empty();
+}
+
+gl::DisplayListPtr legendsOf(const std::vector<DrawnGraph>& drawn) {
+    auto legends = std::make_shared<DisplayList>();
+    for (const DrawnGraph& one : drawn)
+        if (!one.legend->empty()) legends->glCallList(one.legend);
+    return legends;
+}
+
+std::string misfitReport(const std::vector<DrawnGraph>& drawn, int sceneMode) {
+    std::string report;
+    for (const DrawnGraph& one : drawn) {
+        if (fits(one)) continue;
+        if (!report.empty()) report += '\n';
+        report += "The graph \"" + graphs::listLabel(*one.graph, sceneMode) + "\" (number " +
+                  std::to_string(one.graph->ID) +
+                  ") does not fit the data and is left out of the picture: " + one.misfit;
+    }
+    return report;
+}
+
 /// Records all that does not depend on the camera.
 CompiledScene recordBody(AppState& state) {
     CompiledScene compiled;
-    compiled.graphs = state.ShownGraphs.Draw(state.graphContext());
+    const std::vector<DrawnGraph> drawn = state.ShownGraphs.Draw(state.graphContext());
+    for (const DrawnGraph& one : drawn)
+        compiled.graphs.push_back(one.list);
     auto frame = std::make_shared<DisplayList>();
-    if (!state.ShownGraphs.empty() && state.TheAxis.Show)
-        state.SceneBox = state.ShownGraphs.GetBox(state.graphContext());
+    if (std::ranges::any_of(drawn, fits) && state.TheAxis.Show) recordFrame(*frame, state);
     auto body = std::make_shared<DisplayList>();
-    for (const gl::DisplayListPtr& graph : compiled.graphs) body->glCallList(graph);
+    for (const gl::DisplayListPtr& graph : compiled.graphs)
+        body->glCallList(graph);
     if (!frame->empty()) body->glCallList(frame);
     compiled.frame = std::move(frame);
     compiled.body = std::move(body);
-    compiled.legends = std::make_shared<DisplayList>();
+    compiled.legends = legendsOf(drawn);
+    compiled.misfits = misfitReport(drawn, state.scene.SceneMode);
     return compiled;
 }
 
@@ -104,6 +141,7 @@ void centreScene(AppState& state) {
 }
 
 void RebuildScene(AppState& state, SceneChange change) {
+    const std::string misfitsBefore = state.compiled.misfits;
     if (change == SceneChange::Document || !state.compiled.body) {
         const scene::SceneState before = state.scene;
         try {
@@ -115,6 +153,8 @@ void RebuildScene(AppState& state, SceneChange change) {
         }
     }
     state.compiled.list900 = recordScene(state);
+    const std::string& misfits = state.compiled.misfits;
+    if (!misfits.empty() && misfits != misfitsBefore) state.desktop.askUser({"Note", misfits, platform::Icon::Warning});
 }
 
 gl::DisplayList recordDisplay(AppState& state) {
@@ -143,6 +183,7 @@ void rebuildForCamera(AppState& state) {
 void fitCamera(AppState& state) {
     if (state.ShownGraphs.empty()) return;
     const scene::Cls1 box = state.ShownGraphs.GetBox(state.graphContext());
+    if (box.MinX > box.MaxX) return;
     const scene::SceneState& at = state.scene;
     state.TheView.ZoomAll(box.MinX - at.SceneCenterX, box.MinY - at.SceneCenterY, box.MinZ - at.SceneCenterZ,
                           box.MaxX - at.SceneCenterX, box.MaxY - at.SceneCenterY, box.MaxZ - at.SceneCenterZ,

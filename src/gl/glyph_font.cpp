@@ -84,6 +84,12 @@ double bend(const OutlinePoint& a, const OutlinePoint& b, const OutlinePoint& c)
     return std::hypot(a[0] - 2 * b[0] + c[0], a[1] - 2 * b[1] + c[1]);
 }
 
+/// True for points that 32-bit floats might not tell apart.
+bool coincide(const OutlinePoint& a, const OutlinePoint& b) {
+    constexpr double nothing = 1e-6;
+    return std::hypot(a[0] - b[0], a[1] - b[1]) < nothing;
+}
+
 int OutlineReader::moveTo(const FT_Vector* to, void* user) {
     of(user).closeContour();
     of(user).append(of(user).point(*to));
@@ -129,13 +135,13 @@ int OutlineReader::cubicTo(const FT_Vector* control1, const FT_Vector* control2,
 }
 
 void OutlineReader::append(const OutlinePoint& p) {
-    if (contour_.empty() || contour_.back() != p) contour_.push_back(p);
+    if (contour_.empty() || !coincide(contour_.back(), p)) contour_.push_back(p);
     at_ = p;
 }
 
 /// Contours without an area are left out.
 void OutlineReader::closeContour() {
-    while (contour_.size() > 1 && contour_.back() == contour_.front())
+    while (contour_.size() > 1 && coincide(contour_.back(), contour_.front()))
         contour_.pop_back();
     if (contour_.size() > 2) outline_.contours.push_back(std::move(contour_));
     contour_.clear();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <deque>
 #include <memory>
 
 #include "gl/gl_calls.h"
@@ -18,36 +19,45 @@ class Tessellation {
  public:
     explicit Tessellation(const std::vector<std::vector<OutlinePoint>>& contours);
 
+    /// The points of the contours in their order, then those where contours cross.
     const std::vector<OutlinePoint>& points() const { return points_; }
     /// Three points each, turning left.
     const std::vector<std::size_t>& triangles() const { return triangles_; }
 
  private:
-    // GLU carries the number of a point where it would carry a pointer to it, so that points may move in memory.
-    static void* toData(std::size_t number) { return reinterpret_cast<void*>(number); }
-    static std::size_t toNumber(void* data) { return reinterpret_cast<std::size_t>(data); }
     static Tessellation& of(void* self) { return *static_cast<Tessellation*>(self); }
-
-    static void GLAPIENTRY vertex(void* data, void* self) { of(self).triangles_.push_back(toNumber(data)); }
-    static void GLAPIENTRY combine(GLdouble place[3], void* /*data*/[4], GLfloat /*weights*/[4], void** result,
-                                   void* self);
+    static void GLAPIENTRY vertex(void* number, void* self);
+    static void GLAPIENTRY combine(GLdouble place[3], void* numbers[4], GLfloat weights[4], void** result, void* self);
     static void GLAPIENTRY error(GLenum code, void* self);
-    /// Asked for edge flags, GLU makes nothing but separate triangles.
-    static void GLAPIENTRY edgeFlag(GLboolean /*isEdge*/) {}
+    static void GLAPIENTRY edgeFlag(GLboolean isEdge);
+
+    /// What GLU hands back for a new point: the place of its number.
+    void* addPoint(double x, double y);
 
     std::vector<OutlinePoint> points_;
+    std::deque<std::size_t> numbers_;  ///< One a point. They stay where they are, as GLU needs it.
     std::vector<std::size_t> triangles_;
     bool failed_ = false;
 };
 
-void Tessellation::combine(GLdouble place[3], void* /*data*/[4], GLfloat /*weights*/[4], void** result, void* self) {
-    std::vector<OutlinePoint>& points = of(self).points_;
-    points.push_back({place[0], place[1]});
-    *result = toData(points.size() - 1);
+void Tessellation::vertex(void* number, void* self) {
+    of(self).triangles_.push_back(*static_cast<std::size_t*>(number));
+}
+
+void Tessellation::combine(GLdouble place[3], void* /*numbers*/[4], GLfloat /*weights*/[4], void** result, void* self) {
+    *result = of(self).addPoint(place[0], place[1]);
 }
 
 void Tessellation::error(GLenum /*code*/, void* self) {
     of(self).failed_ = true;
+}
+
+/// Asked for edge flags, GLU makes nothing but separate triangles.
+void Tessellation::edgeFlag(GLboolean /*isEdge*/) {}
+
+void* Tessellation::addPoint(double x, double y) {
+    points_.push_back({x, y});
+    return &numbers_.emplace_back(numbers_.size());
 }
 
 Tessellation::Tessellation(const std::vector<std::vector<OutlinePoint>>& contours) {
@@ -63,13 +73,12 @@ Tessellation::Tessellation(const std::vector<std::vector<OutlinePoint>>& contour
         gluTessBeginContour(tess.get());
         for (const OutlinePoint& point : contour) {
             GLdouble place[3] = {point[0], point[1], 0};
-            points_.push_back(point);
-            gluTessVertex(tess.get(), place, toData(points_.size() - 1));
+            gluTessVertex(tess.get(), place, addPoint(point[0], point[1]));
         }
         gluTessEndContour(tess.get());
     }
     gluTessEndPolygon(tess.get());
-    if (failed_ || triangles_.size() % 3 != 0) triangles_.clear();
+    if (failed_) triangles_.clear();
 }
 
 void appendLit(GlyphMesh& mesh, std::uint32_t point, const Vector3f& normal) {

@@ -173,7 +173,7 @@ void Replay::Drawing::call(const DisplayListPtr& list) {
 const ListBuffers* Replay::Drawing::buffersOf(const DisplayListPtr& list) {
     if (matrixMode_ != GL_MODELVIEW) return nullptr;
     const auto known = compiled_.find(list.get());
-    if (known != compiled_.end() && !known->second.source.expired()) return known->second.buffers.get();
+    if (known != compiled_.end()) return known->second.buffers.get();
     if (!hasGeometry(*list)) return nullptr;
     auto buffers = std::make_unique<ListBuffers>(compileList(*list, &glyphs_));
     ++counts_.compiled;

@@ -94,9 +94,13 @@ void applyPlainMap(Cls9& graph) {
     loadRamp(graph, graph.ColorName);
 }
 
-void ValueToRGB(Cls9& graph, double value, double lower, double range, Rgb& color) {
+void loadNamedRamp(Cls9& graph) {
     if (graph.ColorName.empty()) graph.ColorName = "Rainbow";
     ApplyNamedMap(graph, graph.ColorName);
+}
+
+void ValueToRGB(Cls9& graph, double value, double lower, double range, Rgb& color) {
+    loadNamedRamp(graph);
     rampColor(graph, value, lower, range, color);
 }
 

@@ -30,6 +30,9 @@ void applyPlainMap(Cls9& graph);
 /// is not 1 to 31.
 void ValueToRGB(Cls9& graph, double value, double lower, double range, Rgb& color);
 
+/// What `ValueToRGB` begins with: an empty colour name becomes "Rainbow", and a named ramp is loaded.
+void loadNamedRamp(Cls9& graph);
+
 /// `ValueToRGB` for a graph whose named ramp is loaded: what loops over many values call.
 void rampColor(const Cls9& graph, double value, double lower, double range, Rgb& color);
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "gl/display_list.h"
 #include "graphs/graph.h"
+#include "graphs/grid_table.h"
 
 namespace tessaplot::graphs {
 
@@ -18,21 +17,11 @@ struct Node {
 void requireGrid(const data::ClsData& data, int lastI, int lastJ);
 
 /// The nodes of one drawing, i from 0 to StepU, j from 0 to StepV.
-class NodeTable {
+class NodeTable : public GridTable<Node> {
  public:
     /// Takes every node from the grid of the data set. Throws SubscriptOutOfRange, before anything is allocated, if
     /// that is smaller.
     NodeTable(const data::ClsData& data, int lastI, int lastJ);
-    Node& operator()(int i, int j) { return nodes_[index(i, j)]; }
-    const Node& operator()(int i, int j) const { return nodes_[index(i, j)]; }
-
- private:
-    std::size_t index(int i, int j) const {
-        return static_cast<std::size_t>(i) * static_cast<std::size_t>(lastJ_ + 1) + static_cast<std::size_t>(j);
-    }
-    int lastI_;
-    int lastJ_;
-    std::vector<Node> nodes_;
 };
 
 void emitPoint(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
@@ -40,6 +29,10 @@ void emitPoint(gl::DisplayList& list, const Cls9& graph, const GraphContext& con
 void emitVertexModel(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);
 /// A line from each node to its neighbours along both axes, each cell for itself.
 void emitGridModel(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);
+/// A filled mesh of the nodes with all that belongs to it: texture, transparency, marks of scattered points, overlays.
+void emitSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& context, const NodeTable& nodes);
+/// The triangles of the last triangulation, filled and as edges.
+void emitTriangles(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
 /// The polyline through row 0 of the graph's own table, with a ring at each node.
 void emitTable(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
 

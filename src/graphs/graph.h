@@ -179,6 +179,9 @@ class Cls9 {
     /// Emits the graph. Steps of 0 become 1 and a named ramp is loaded; both stay. The state set last is left to the
     /// next graph. Throws SubscriptOutOfRange for a data set smaller than the graph's steps.
     void Draw(gl::DisplayList& list, const GraphContext& context);
+    /// Emits the colour bar with its numbers in percent of the picture, for the data set's range that belongs to the
+    /// fill. Kinds and fills without a range have no bar. An empty colour name becomes "Rainbow".
+    void DrawLegend(gl::DisplayList& list, const GraphContext& context);
 
  private:
     std::unordered_map<int, scene::Cls2> vertexTable_;

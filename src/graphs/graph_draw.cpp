@@ -35,6 +35,12 @@ void emitKind(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
         case graph_type::point:
             emitPoint(list, graph, context);
             break;
+        case graph_type::surface:
+            emitSurface(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
+            break;
+        case graph_type::delaunay:
+            emitTriangles(list, graph, context);
+            break;
         case graph_type::vertexModel:
             emitVertexModel(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
             break;

@@ -7,13 +7,21 @@ void requireGrid(const data::ClsData& data, int lastI, int lastJ) {
         static_cast<void>((*array)(lastI, lastJ));
 }
 
-NodeTable::NodeTable(const data::ClsData& data, int lastI, int lastJ) : lastI_(lastI), lastJ_(lastJ) {
+namespace {
+
+int checkedLastI(const data::ClsData& data, int lastI, int lastJ) {
     requireGrid(data, lastI, lastJ);
-    nodes_.resize((static_cast<std::size_t>(lastI) + 1) * (static_cast<std::size_t>(lastJ) + 1));
+    return lastI;
+}
+
+}  // namespace
+
+NodeTable::NodeTable(const data::ClsData& data, int lastI, int lastJ)
+    : GridTable(checkedLastI(data, lastI, lastJ), lastJ) {
     const auto x = data.Reg3DX.values();
     const auto y = data.Reg3DY.values();
     const auto z = data.Reg3DZ.values();
-    auto node = nodes_.begin();
+    auto node = begin();
     for (std::size_t i = 0; i <= static_cast<std::size_t>(lastI); ++i)
         for (std::size_t j = 0; j <= static_cast<std::size_t>(lastJ); ++j)
             *node++ = {y[i + j * data.Reg3DY.strideJ()], z[i + j * data.Reg3DZ.strideJ()],

@@ -2,6 +2,7 @@
 
 #include "base/angle.h"
 #include "graphs/emitters.h"
+#include "graphs/flat_drawing.h"
 #include "graphs/over_scale.h"
 
 namespace tessaplot::graphs {
@@ -39,14 +40,6 @@ void unrollAngles(scene::Cls2& marker, data::DataKind kind) {
         marker.x = std::sin(a) * b;
         marker.y = std::cos(a) * b;
     }
-}
-
-void beginFlatDrawing(gl::DisplayList& list) {
-    list.glDisable(GL_LIGHTING);
-    list.glEnable(GL_LINE_SMOOTH);
-    list.glEnable(GL_BLEND);
-    list.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-    list.glHint(GL_LINE_SMOOTH_HINT, GL_NICEST);
 }
 
 void endFlatDrawing(gl::DisplayList& list) {

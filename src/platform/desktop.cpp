@@ -23,4 +23,10 @@ void Desktop::progress(double share) const {
     if (reportProgress && !reportProgress(share)) throw base::Failure(base::FailureCode::Cancelled, "Cancelled.");
 }
 
+Picture Desktop::readPicture(const std::filesystem::path& path) const {
+    if (loadPicture) return loadPicture(path);
+    throw base::Failure(base::FailureCode::FileUnreadable,
+                        "The picture \"" + path.string() + "\" cannot be read: there is no reader for it.");
+}
+
 }  // namespace tessaplot::platform

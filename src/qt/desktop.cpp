@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <memory>
 
+#include "pictures/picture_reader.h"
 #include "qt/main_window.h"
 
 namespace tessaplot::qt {
@@ -118,6 +119,7 @@ platform::Desktop makeDesktop(MainWindow& window) {
     desktop.display = [&window] { window.displayPicture(); };
     desktop.closeWindow = [&window] { window.close(); };
     desktop.reportProgress = [&window](double share) { return window.reportProgress(share); };
+    desktop.loadPicture = pictures::readPicture;
     return desktop;
 }
 

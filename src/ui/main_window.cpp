@@ -119,9 +119,13 @@ void frmF1::resizePicture(int width, int height) {
 void frmF1::unload() {
     state_.QuickDraw = false;
     if (state_.AllGraphs.empty()) return;
-    const Answer answer =
-        state_.desktop.askUser({"Note", "Do you want to save the graphs?", Icon::Warning, Buttons::YesNo});
-    if (answer == Answer::Yes) mnuFileSave_Click();
+    // The status line goes with the window, so a save that fails here is told in a box and offered again.
+    while (state_.desktop.askUser({"Note", "Do you want to save the graphs?", Icon::Warning, Buttons::YesNo}) ==
+           Answer::Yes) {
+        mnuFileSave_Click();
+        if (saveFailure_.empty()) return;
+        state_.desktop.askUser({"Tessaplot", saveFailure_, Icon::Error});
+    }
 }
 
 std::filesystem::path frmF1::saveRecovery(const std::filesystem::path& folder) const {
@@ -207,6 +211,7 @@ void frmF1::mnuFileOpen_Click() {
 
 void frmF1::mnuFileSave_Click() {
     SaveDone = true;
+    saveFailure_.clear();
     if (state_.AllGraphs.empty()) return;
     const auto chosen = state_.desktop.chooseFileName({platform::FileQuestion::Mode::Save, "Save", "(*.tsp)|*.tsp"});
     SaveDone = chosen.has_value();
@@ -220,7 +225,8 @@ void frmF1::saveAs(const std::filesystem::path& path) {
         state_.desktop.status("Saved \"" + path.string() + "\".");
     } catch (const base::Failure& failure) {
         SaveDone = false;
-        state_.desktop.status(failure.what());
+        saveFailure_ = failure.what();
+        state_.desktop.status(saveFailure_);
     }
 }
 

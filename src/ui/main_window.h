@@ -64,6 +64,7 @@ class frmF1 {
     void showFailure(const std::exception& failure) const;
 
     core::AppState& state_;
+    std::string saveFailure_;  ///< Why the last save could not be written; empty if it was, or was cancelled.
 };
 
 template <class Action>

@@ -86,7 +86,9 @@ TEST_P(Picture, isTheReferenceAndIsFittedOnWhiteGround) {
 INSTANTIATE_TEST_SUITE_P(Samples, Picture,
                          testing::Values(Reference{"grid_vertex_iso", "grid_vertex", {}},
                                          Reference{"cylinder_quick_right", "cylinder", {"--quick", "--view", "right"}},
-                                         Reference{"sphere_top", "sphere", {"--view", "top"}}),
+                                         Reference{"sphere_top", "sphere", {"--view", "top"}},
+                                         Reference{"surface_with_legend", "surface", {}},
+                                         Reference{"delaunay_quick", "delaunay", {"--quick"}}),
                          testing::PrintToStringParamName());
 
 }  // namespace

@@ -84,6 +84,7 @@ TEST(Program, samplesAreWhatTheGeneratorWritesAndConvertKeepsThem) {
     for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
         const auto kept = std::filesystem::path(TESSAPLOT_SAMPLES) / entry.path().filename();
         EXPECT_EQ(bytesOf(entry.path()), bytesOf(kept)) << kept << " is not what the generator writes";
+        if (kept.extension() != ".tsp") continue;
         EXPECT_EQ(cli({"convert", kept.string(), folder / "again.tmp"}).status, 0);
         EXPECT_EQ(bytesOf(folder / "again.tmp"), bytesOf(kept));
         std::filesystem::remove(folder / "again.tmp");

@@ -1,8 +1,8 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "base/failure.h"
 #include "core/document.h"
@@ -69,7 +69,8 @@ TEST_F(LoadDocumentTest, dataThatCannotBeScaledLeaveTheGraphsListedAndUnticked) 
     AppState other;
     fillPanel(other.panel, data::DataKind::RegularSurface);
     addGraph(other, graphs::graph_type::gridModel);
-    for (int row = 1; row < other.panel.gridRows(); ++row) other.panel.setCell(3, row, "4");
+    for (int row = 1; row < other.panel.gridRows(); ++row)
+        other.panel.setCell(3, row, "4");
     const fs::path flat = put(documentText(partsOf(other, other.AllGraphs)));
     try {
         LoadDocument(state, flat);
@@ -82,6 +83,40 @@ TEST_F(LoadDocumentTest, dataThatCannotBeScaledLeaveTheGraphsListedAndUnticked) 
     EXPECT_TRUE(state.ShownGraphs.empty());
     EXPECT_EQ(state.TheData.StepsX, 0) << "nothing is left to draw a wrong picture from";
     EXPECT_NO_THROW(RebuildScene(state));
+}
+
+TEST_F(LoadDocumentTest, triangulatesForTheLastGraphAloneAndTellsOfCoincidentPointsOnce) {
+    std::vector<std::string> messages;
+    state.desktop.ask = [&](const platform::Message& message) {
+        messages.push_back(message.text);
+        return platform::Answer::Ok;
+    };
+    AppState other;
+    fillPanel(other.panel, data::DataKind::IrregularSurface);
+    addGraph(other, graphs::graph_type::delaunay)->ShowDG = true;
+    const std::string last = documentText(partsOf(other, other.AllGraphs));
+    ASSERT_EQ(LoadDocument(state, put(last)), LoadResult::Loaded);
+    EXPECT_GT(state.TriangleCount(), 0);
+    EXPECT_THAT(gl::toText(*state.compiled.graphs[0]), testing::HasSubstr("glBegin GL_LINES\n"));
+    ASSERT_EQ(messages.size(), 1U) << "every point stands in the data three times";
+    EXPECT_THAT(messages[0], testing::HasSubstr("oincident"));
+
+    addGraph(other, graphs::graph_type::vertexModel);
+    ASSERT_EQ(LoadDocument(state, put(documentText(partsOf(other, other.AllGraphs)))), LoadResult::Loaded);
+    EXPECT_EQ(state.TriangleCount(), 0);
+    EXPECT_EQ(state.ShownGraphs.Graphs.size(), 2U);
+    EXPECT_EQ(messages.size(), 1U);
+}
+
+TEST_F(LoadDocumentTest, aGraphOfTrianglesNeedsNoScatteredPoints) {
+    ASSERT_EQ(LoadDocument(state, putExample(graphs::graph_type::delaunay)), LoadResult::Loaded);
+    AppState other;
+    for (const data::DataKind kind : {data::DataKind::RegularSurface, data::DataKind::IrregularVolume}) {
+        fillPanel(other.panel, kind);
+        addGraph(other, graphs::graph_type::delaunay);
+        EXPECT_EQ(LoadDocument(state, put(documentText(partsOf(other, other.AllGraphs)))), LoadResult::Loaded);
+        EXPECT_EQ(state.TriangleCount(), 0);
+    }
 }
 
 TEST_F(LoadDocumentTest, aGraphWithoutAnEntryIsKeptButNotShown) {

@@ -85,11 +85,50 @@ TEST(Scene, aGraphThatCannotBeDrawnLeavesTheSceneAsItWas) {
     AppState state;
     showGridModel(state);
     const gl::DisplayListPtr list = state.compiled.list900;
-    addGraph(state, graphs::graph_type::gridModel)->StepU = 10;
+    const GraphPtr point = addGraph(state, graphs::graph_type::point);
+    point->PointX = 1e308;
+    state.scaling.ScaleY = 1e-308;
     EXPECT_THROW(setTick(state, 1, true), base::Failure);
     EXPECT_FALSE(state.List1.entries[1].ticked);
     EXPECT_EQ(state.ShownGraphs.Graphs.size(), 1U);
     EXPECT_EQ(state.compiled.list900, list);
+}
+
+TEST(Scene, aGraphThatDoesNotFitTheDataIsLeftOutAndNamedOnce) {
+    AppState state;
+    std::vector<std::string> messages;
+    state.desktop.ask = [&](const platform::Message& message) {
+        messages.push_back(message.text);
+        return platform::Answer::Ok;
+    };
+    showGridModel(state);
+    const scene::Cls1 box = state.ShownGraphs.GetBox(state.graphContext());
+    const GraphPtr wide = addGraph(state, graphs::graph_type::surface);
+    wide->StepU = 10;
+    wide->FillStyle = 5;
+    setTick(state, 1, true);
+    EXPECT_TRUE(state.List1.entries[1].ticked);
+    ASSERT_EQ(state.compiled.graphs.size(), 2U);
+    EXPECT_FALSE(state.compiled.graphs[0]->empty());
+    EXPECT_TRUE(state.compiled.graphs[1]->empty());
+    EXPECT_TRUE(state.compiled.legends->empty());
+    EXPECT_EQ(state.ShownGraphs.GetBox(state.graphContext()).MaxX, box.MaxX);
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_THAT(messages[0], testing::HasSubstr("\"3D Surface Model\" (number 2) does not fit the data"));
+    RebuildScene(state);
+    rebuildForCamera(state);
+    EXPECT_EQ(messages.size(), 1U) << "the same situation is not told again";
+
+    wide->StepU = 2;
+    RebuildScene(state);
+    EXPECT_FALSE(state.compiled.graphs[1]->empty());
+    EXPECT_FALSE(state.compiled.legends->empty());
+    wide->StepU = 10;
+    RebuildScene(state);
+    EXPECT_EQ(messages.size(), 2U);
+    setTick(state, 0, false);
+    EXPECT_EQ(messages.size(), 2U);
+    EXPECT_TRUE(state.compiled.frame->empty()) << "no frame stands round nothing";
 }
 
 TEST(Scene, shownGraphsKeepTheOrderOfTheirTicks) {

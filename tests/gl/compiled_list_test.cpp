@@ -47,6 +47,21 @@ TEST(CompileList, BlocksOfAGridBecomeOneBatchOfSharedVertices) {
     }
 }
 
+TEST(CompileList, ValuesThatArraysMayHaveChangedAreSetAgain) {
+    DisplayList list;
+    list.glColor3f(1, 0, 0);
+    list.glEnable(GL_LIGHTING);
+    list.glBegin(GL_TRIANGLES);
+    for (const float green : {0.5F, 1.0F, 0.0F}) {
+        list.glColor3f(1, green, 0);
+        list.glVertex3d(green, 0, green * green);
+    }
+    list.glEnd();
+    list.glDisable(GL_LIGHTING);
+    EXPECT_EQ(toText(compileList(list).calls),
+              "glColor4f 1 0 0 1\nglEnable GL_LIGHTING\nglColor4f 1 0 0 1\nglDisable GL_LIGHTING\n");
+}
+
 TEST(CompileList, MarkersAndArrowsArePlacedWithoutMatrixCalls) {
     DisplayList list;
     for (int i = 0; i < 100; ++i) {

@@ -142,10 +142,16 @@ TEST(Replay, LeavesToImmediateModeWhatNoBatchCanHold) {
     list->glVertex3d(6, 2, 0);
     list->glVertex3d(5, 4, 0);
     list->glEnd();
+    auto turned = std::make_shared<DisplayList>();
+    turned->glPushMatrix();
+    turned->glRotatef(20, 0, 0, 1);
+    turned->gluSphere(1, 10, 10);
+    turned->glPopMatrix();
     list->glMatrixMode(GL_PROJECTION);  // Matrix calls that are none of the modelview's.
     list->glPushMatrix();
-    list->glTranslatef(0.1F, 0.5F, 0);
+    list->glTranslatef(3, 3, 0);
     list->gluSphere(1, 10, 10);
+    list->glCallList(turned);
     list->glPopMatrix();
     list->glMatrixMode(GL_MODELVIEW);
     list->glPushMatrix();  // A matrix that no vertex can be placed by, and one that stays.

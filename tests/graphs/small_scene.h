@@ -1,9 +1,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "gl/display_list.h"
 #include "graphs/graph.h"
+#include "graphs/texture.h"
 
 namespace tessaplot::graphs {
 
@@ -13,6 +15,10 @@ struct SmallScene {
     data::DataKind kind = data::DataKind::RegularSurface;
     data::Scaling scaling;
     scene::SceneState scene;
+    std::vector<geometry::Triangle> triangles;
+    platform::Desktop desktop;
+    mutable TextureCache textures;
+    std::filesystem::path folder;
 
     SmallScene() {
         scaling.ScaleX = 2;
@@ -20,7 +26,7 @@ struct SmallScene {
         scaling.ScaleZ = 8;
     }
 
-    GraphContext context() const { return {data, kind, scaling, scene}; }
+    GraphContext context() const { return {data, kind, scaling, scene, triangles, &desktop, &textures, folder}; }
 
     /// A surface of countX by countY nodes at (i, 10 j, 100 i + j) with the colour -j.
     void fillSurface(int countX, int countY) {

@@ -175,6 +175,13 @@ TEST_F(MainWindow, closingOffersToSaveOnlyAFilledDocument) {
     chosen = (folder / "end.tsp").string();
     window.unload();
     EXPECT_THAT(asked, testing::ElementsAre("Note: Do you want to save the graphs?", "Save (*.tsp)|*.tsp"));
+    asked.clear();
+    answers = {Answer::Yes, Answer::Ok, Answer::No};
+    chosen = (folder / "missing" / "end.tsp").string();
+    window.unload();
+    ASSERT_EQ(asked.size(), 4U) << "a failed save is told and offered again";
+    EXPECT_THAT(asked[2], testing::HasSubstr("cannot be written"));
+    chosen = (folder / "end.tsp").string();
     EXPECT_TRUE(fs::exists(chosen));
 }
 
