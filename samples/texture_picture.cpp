@@ -54,7 +54,8 @@ std::string headerOf(std::uint32_t pixelBytes) {
     append(bytes, pixelBytes, 4);
     append(bytes, 2835, 4);
     append(bytes, 2835, 4);
-    append(bytes, 0, 8);
+    append(bytes, 0, 4);
+    append(bytes, 0, 4);
     return bytes;
 }
 
