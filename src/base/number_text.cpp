@@ -52,12 +52,11 @@ bool isBelowOne(const char* first, const char* last) {
     return magnitude + exponent <= 0;
 }
 
-/// Value of the unsigned number [first, last), which is known to hold at least one digit.
-double unsignedValue(const char* first, const char* last) {
-    double value = 0;
-    if (std::from_chars(first, last, value).ec != std::errc::result_out_of_range) return value;
-    if (!isBelowOne(first, last)) failOverflow({first, static_cast<std::size_t>(last - first)});
-    return 0;
+/// Where the unsigned number that starts at `first` ends.
+const char* numberEnd(const char* first, const char* end) {
+    const char* at = skipDigits(first, end);
+    if (at != end && *at == '.') at = skipDigits(at + 1, end);
+    return skipExponent(at, end);
 }
 
 double valueWithoutBlanks(std::string_view text) {
@@ -65,11 +64,13 @@ double valueWithoutBlanks(std::string_view text) {
     const char* end = at + text.size();
     const bool negative = at != end && *at == '-';
     if (at != end && (*at == '-' || *at == '+')) ++at;
-    const char* whole = skipDigits(at, end);
-    const char* fraction = whole != end && *whole == '.' ? skipDigits(whole + 1, end) : whole;
-    const bool hasDigits = whole != at || fraction - whole > 1;
-    if (!hasDigits) return 0;
-    const double value = unsignedValue(at, skipExponent(fraction, end));
+    // What starts otherwise is none of our numbers, but may be one to from_chars.
+    if (at == end || (!isDigit(*at) && *at != '.')) return 0;
+    double value = 0;
+    if (std::from_chars(at, end, value).ec == std::errc::result_out_of_range) {
+        const char* last = numberEnd(at, end);
+        if (!isBelowOne(at, last)) failOverflow({at, static_cast<std::size_t>(last - at)});
+    }
     return negative ? -value : value;
 }
 

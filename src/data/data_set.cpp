@@ -24,14 +24,17 @@ void startRange(double& minimum, double& maximum) {
     maximum = startMaximum;
 }
 
-/// Calls `visit(offset)` for each node but the spare ones, the first index outermost.
+/// Calls `visit(offset)` for each node but the spare ones, in the order in which they lie in memory.
 template <class Visitor>
 void forEachNode(const Array& array, int countI, int countJ, int countK, Visitor&& visit) {
-    for (int i = 0; i < countI; ++i)
-        for (int j = 0; j < countJ; ++j)
-            for (int k = 0; k < countK; ++k)
-                visit(static_cast<std::size_t>(i) + array.strideJ() * static_cast<std::size_t>(j) +
-                      array.strideK() * static_cast<std::size_t>(k));
+    for (int k = 0; k < countK; ++k) {
+        for (int j = 0; j < countJ; ++j) {
+            const std::size_t first =
+                array.strideJ() * static_cast<std::size_t>(j) + array.strideK() * static_cast<std::size_t>(k);
+            for (int i = 0; i < countI; ++i)
+                visit(first + static_cast<std::size_t>(i));
+        }
+    }
 }
 
 /// Fails unless nodes up to the counts are there, so that a walk over them needs no further check.

@@ -47,6 +47,9 @@ const TextTag* findTag(std::string_view token) {
     return found == tags.end() ? nullptr : found;
 }
 
+// A function object, so that searches with it are compiled in place.
+constexpr auto isSeparator = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+
 /// Walks over a data text token by token: every blank, tab and line end closes one, also an empty one.
 class TextTokens {
  public:
@@ -57,9 +60,9 @@ class TextTokens {
         if (++taken_ > textTokenSlots)
             throw base::Failure(base::FailureCode::SubscriptOutOfRange,
                                 "The text has more than " + std::to_string(textTokenSlots) + " tokens.");
-        const std::size_t end = rest_.find_first_of(" \t\r\n");
-        const std::string_view token = rest_.substr(0, end);
-        rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : separatorEnd(end));
+        const auto* const end = std::find_if(rest_.begin(), rest_.end(), isSeparator);
+        const std::string_view token(rest_.begin(), end);
+        rest_.remove_prefix(end == rest_.end() ? rest_.size() : separatorEnd(token.size()));
         return token;
     }
 
@@ -73,8 +76,9 @@ class TextTokens {
 };
 
 /// Counts the tokens that follow, so that a text too long for the table is refused before anything changes.
-void requireTokensFit(TextTokens tokens) {
-    while (!tokens.atEnd())
+void requireTokensFit(std::string_view text) {
+    if (std::count_if(text.begin(), text.end(), isSeparator) < textTokenSlots) return;
+    for (TextTokens tokens(text); !tokens.atEnd();)
         tokens.next();
 }
 
@@ -97,8 +101,9 @@ std::string_view withoutQuotes(std::string_view text) {
 }  // namespace
 
 bool importText(DataPanel& panel, std::string_view text) {
-    TextTokens tokens(withoutQuotes(text));
-    requireTokensFit(tokens);
+    text = withoutQuotes(text);
+    requireTokensFit(text);
+    TextTokens tokens(text);
     const TextTag* tag = findTag(tokens.next());
     if (tag == nullptr) return false;
     std::vector<std::string> sizes;
