@@ -95,12 +95,11 @@ void Canvas::moveToNextSample(bool keepsColors) {
         sampleTargets_.push_back(std::make_unique<ColorTarget>(GL_RGBA8, width_, height_, depth_));
     target_ = sampleTargets_[usedTargets_++].get();
     targetIsShared_ = false;
-    if (keepsColors) {
+    if (keepsColors && before != target_)
         copyColors(before->framebuffer(), target_->framebuffer(), width_, height_, width_, height_);
-        drawnArea_.includeAll();
-    } else {
+    else
         target_->bind();
-    }
+    if (keepsColors) drawnArea_.includeAll();
 }
 
 void Canvas::accumulate(GLenum operation, float value) {

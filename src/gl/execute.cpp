@@ -116,7 +116,8 @@ void changeState(Op op, const Arguments& a) {
             ::glDisable(a.e(0));
             break;
         case Op::LineWidth:
-            ::glLineWidth(a.f(0));
+            // Documents may hold a width of 0, which is an error and changes nothing.
+            if (a.f(0) > 0) ::glLineWidth(a.f(0));
             break;
         case Op::ShadeModel:
             ::glShadeModel(a.e(0));

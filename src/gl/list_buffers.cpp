@@ -13,12 +13,17 @@ void fill(GLenum target, const std::vector<Number>& numbers) {
     glBufferData(target, static_cast<GLsizeiptr>(numbers.size() * sizeof(Number)), numbers.data(), GL_STATIC_DRAW);
 }
 
+/// OpenGL takes places in the bound buffer as pointers.
+const void* bufferPlace(std::size_t offset) {
+    return reinterpret_cast<const void*>(offset);  // NOLINT(performance-no-int-to-ptr)
+}
+
 /// Tells the bound vertex array how vertices lie in the bound buffer.
 void describeVertices(unsigned attributes) {
     const auto stride = static_cast<GLsizei>(numbersOfVertex(attributes) * sizeof(float));
     std::size_t offset = 0;
     const auto next = [&offset](std::size_t numbers) {
-        const auto* place = reinterpret_cast<const void*>(offset);
+        const void* place = bufferPlace(offset);
         offset += numbers * sizeof(float);
         return place;
     };
@@ -73,7 +78,7 @@ ListBuffers::~ListBuffers() {
 void ListBuffers::draw(const Batch& batch) const {
     glBindVertexArray(arrays_[batch.attributes]);
     glDrawElementsBaseVertex(batch.primitive, static_cast<GLsizei>(batch.indexCount), GL_UNSIGNED_SHORT,
-                             reinterpret_cast<const void*>(batch.firstIndex * sizeof(std::uint16_t)),
+                             bufferPlace(batch.firstIndex * sizeof(std::uint16_t)),
                              static_cast<GLint>(batch.firstVertex));
 }
 

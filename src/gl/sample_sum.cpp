@@ -1,7 +1,9 @@
 #include "gl/sample_sum.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/failure.h"
@@ -15,14 +17,17 @@ constexpr const char* vertexShader = "#version 130\nvoid main() { gl_Position = 
 
 /// Plain texture reads: on software OpenGL they are faster than texel fetches.
 std::string fragmentShader(std::size_t samples) {
-    std::string declarations = "#version 130\nuniform vec2 pixel;\nuniform float scale;\n";
-    std::string sum = "void main() {\n    vec2 at = gl_FragCoord.xy * pixel;\n    vec3 sum = vec3(0.0);\n";
-    for (std::size_t i = 0; i < samples; ++i) {
-        const std::string number = std::to_string(i);
-        declarations += "uniform sampler2D sample" + number + ";\nuniform float weight" + number + ";\n";
-        sum += "    sum += texture(sample" + number + ", at).rgb * weight" + number + ";\n";
-    }
-    return declarations + sum + "    gl_FragColor = vec4(sum * scale, 1.0);\n}\n";
+    std::string source = "#version 130\nuniform vec2 pixel;\nuniform float scale;\n";
+    const auto forEachSample = [&source, samples](std::initializer_list<std::string_view> parts) {
+        for (std::size_t i = 0; i < samples; ++i)
+            for (const std::string_view part : parts)
+                part == "#" ? source += std::to_string(i) : source += part;
+    };
+    forEachSample({"uniform sampler2D sample", "#", ";\nuniform float weight", "#", ";\n"});
+    source += "void main() {\n    vec2 at = gl_FragCoord.xy * pixel;\n    vec3 sum = vec3(0.0);\n";
+    forEachSample({"    sum += texture(sample", "#", ", at).rgb * weight", "#", ";\n"});
+    source += "    gl_FragColor = vec4(sum * scale, 1.0);\n}\n";
+    return source;
 }
 
 void attachShader(GLuint program, GLenum kind, const std::string& source) {

@@ -1,7 +1,7 @@
 #include "gl/vertex_pool.h"
 
 #include <algorithm>
-#include <cstring>
+#include <bit>
 
 namespace tessaplot::gl {
 
@@ -9,10 +9,13 @@ namespace {
 
 constexpr int slotBits = 16;
 
-std::size_t slotOf(const Vertex& vertex) {
-    static_assert(sizeof(Vertex) == 6 * sizeof(std::uint64_t));
-    std::array<std::uint64_t, 6> words;
-    std::memcpy(words.data(), &vertex, sizeof vertex);
+using Words = std::array<std::uint64_t, 6>;
+
+Words wordsOf(const Vertex& vertex) {
+    return std::bit_cast<Words>(vertex);
+}
+
+std::size_t slotOf(const Words& words) {
     std::uint64_t hash = 0;
     for (const std::uint64_t word : words) {
         hash = (hash ^ word) * 0x9e3779b97f4a7c15U;
@@ -26,9 +29,9 @@ std::size_t slotOf(const Vertex& vertex) {
 VertexPool::VertexPool() : slots_(std::size_t{1} << slotBits) {}
 
 std::uint16_t VertexPool::add(const Vertex& vertex) {
-    Slot& slot = slots_[slotOf(vertex)];
-    if (slot.generation == generation_ && std::memcmp(&vertices_[slot.vertex], &vertex, sizeof vertex) == 0)
-        return slot.vertex;
+    const Words words = wordsOf(vertex);
+    Slot& slot = slots_[slotOf(words)];
+    if (slot.generation == generation_ && wordsOf(vertices_[slot.vertex]) == words) return slot.vertex;
     slot = {generation_, append(vertex)};
     return slot.vertex;
 }

@@ -124,20 +124,7 @@ TEST_F(TextureTest, takesTheKindFromTheLastThreeLetters) {
     EXPECT_FALSE(load("b.gif"));
 }
 
-TEST_F(TextureTest, turnsAPictureUpsideDownForOpenGl) {
-    picture = {4, 2, {}};
-    for (std::uint8_t k = 0; k < 24; ++k)
-        picture.pixels.push_back(k);
-    put("a.bmp", "x");
-    ASSERT_TRUE(load("a.bmp"));
-    const Bytes& pixels = texture.TextureImg->pixels;
-    EXPECT_EQ(Bytes(pixels.begin(), pixels.begin() + 12), Bytes(picture.pixels.begin() + 12, picture.pixels.end()));
-    EXPECT_EQ(Bytes(pixels.begin() + 12, pixels.begin() + 21),
-              Bytes(picture.pixels.begin(), picture.pixels.begin() + 9));
-    EXPECT_EQ(Bytes(pixels.begin() + 21, pixels.end()), Bytes(3, 0)) << "the last pixels stay black";
-}
-
-TEST_F(TextureTest, slantsAPictureWhoseRowsArePadded) {
+TEST_F(TextureTest, turnsAPictureUpsideDownAndSlantsOneWhoseRowsArePadded) {
     Cls15 slanted;
     platform::Picture odd{5, 3, {}};
     for (std::uint8_t k = 0; k < 45; ++k)
