@@ -93,7 +93,9 @@ class WavySurface {
         const double length = std::sqrt(alongX * alongX + alongY * alongY + 1);
         return {x - 5, up, y - 5, {-alongX / length, 1 / length, -alongY / length}};
     }
-    const Node& at(int i, int j) const { return nodes_[static_cast<std::size_t>(i * nodes + j)]; }
+    const Node& at(int i, int j) const {
+        return nodes_[static_cast<std::size_t>(i) * nodes + static_cast<std::size_t>(j)];
+    }
 
     std::vector<Node> nodes_;
 };

@@ -211,7 +211,7 @@ void compareSteps(benchmark::State& state, Model model, bool rebuilds, int sampl
     contest.replay();
     for (PlainWay* way : {&contest.immediate(), &contest.listed(), &contest.blending()})
         contest.plain(*way);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto step : state) {
         contest.turn();
         replay.take([&] { contest.replay(); });
         immediate.take([&] { contest.plain(contest.immediate()); });
@@ -228,7 +228,7 @@ void repaint(benchmark::State& state) {
     Contest contest(Model::Grid, false, 2);
     Times drag;
     Times repaint;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto step : state) {
         contest.turn();
         drag.take([&] { contest.replay(); });
         contest.repaint();

@@ -164,7 +164,8 @@ void PlainDrawing::callRest(const DisplayList& list, const Operation& operation)
     const auto i = [&n](std::size_t k) { return static_cast<GLint>(n[k]); };
     switch (operation.op) {
         case Op::Clear:
-            if ((e(n[0]) & GL_ACCUM_BUFFER_BIT) != 0) sum_.assign(3 * static_cast<std::size_t>(width_ * height_), 0);
+            if ((e(n[0]) & GL_ACCUM_BUFFER_BIT) != 0)
+                sum_.assign(3 * static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0);
             return ::glClear(e(n[0]) & ~static_cast<GLbitfield>(GL_ACCUM_BUFFER_BIT));
         case Op::Accum:
             return accumulate(e(n[0]), f(n[1]));
@@ -237,7 +238,7 @@ void PlainDrawing::accumulate(GLenum operation, float value) {
 
 Pixels PlainDrawing::readPixels() const {
     context_.makeCurrent();
-    const auto row = static_cast<std::size_t>(3 * width_);
+    const std::size_t row = 3 * static_cast<std::size_t>(width_);
     Pixels pixels(row * static_cast<std::size_t>(height_));
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
     for (int y = 0; y < height_; ++y)
