@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/failure.h"
+#include "data/range.h"
 
 namespace tessaplot::data {
 
@@ -13,11 +14,6 @@ namespace {
 
 constexpr double startMinimum = 1e10;
 constexpr double startMaximum = -1e10;
-
-void widen(double value, double& minimum, double& maximum) {
-    if (value < minimum) minimum = value;
-    if (value > maximum) maximum = value;
-}
 
 void startRange(double& minimum, double& maximum) {
     minimum = startMinimum;

@@ -8,6 +8,7 @@
 #include "base/failure.h"
 #include "base/number_text.h"
 #include "data/data_set.h"
+#include "data/range.h"
 
 namespace tessaplot::data {
 
@@ -21,11 +22,6 @@ constexpr double irregularStart = 1e10;
 
 /// More nodes than this are refused, so that a mistyped count cannot eat the machine.
 constexpr std::int64_t maximumNodes = 8'000'000;
-
-void widen(double value, double& minimum, double& maximum) {
-    if (value < minimum) minimum = value;
-    if (value > maximum) maximum = value;
-}
 
 int countAtLeastZero(const DataPanel& panel, int box) {
     const int count = panel.count(box);
