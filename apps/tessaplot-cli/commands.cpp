@@ -62,12 +62,14 @@ core::Document readKnownDocument(const std::filesystem::path& path) {
 }
 
 void render(const RenderOptions& options) {
+    auto preparedContext = gl::OffscreenContext::prepare();
     core::AppState state;
     open(state, options.document, options.width, options.height);
     turn(state, options.view);
     state.QuickDraw = options.quick;
     core::fitView(state);
-    const gl::OffscreenContext context;
+    const auto context = preparedContext.get();
+    context->makeCurrent();
     gl::Replay replay;
     replay.draw(core::recordDisplay(state), options.width, options.height);
     if (!replay.trouble().empty()) tell({{}, replay.trouble()});

@@ -25,6 +25,7 @@ enum class Op : std::uint8_t {
     Color3d,
     Color4f,
     Color4d,
+    TexCoord2f,
     TexCoord2d,
     Enable,
     Disable,
@@ -102,6 +103,7 @@ class DisplayList {
     void glColor4d(double red, double green, double blue, double alpha) {
         record(Op::Color4d, red, green, blue, alpha);
     }
+    void glTexCoord2f(float s, float t) { record(Op::TexCoord2f, s, t); }
     void glTexCoord2d(double s, double t) { record(Op::TexCoord2d, s, t); }
 
     void glEnable(GLenum capability) { record(Op::Enable, capability); }

@@ -32,6 +32,8 @@ CallForm formOf(Op op) {
             return {"glColor4f", "ffff"};
         case Op::Color4d:
             return {"glColor4d", "dddd"};
+        case Op::TexCoord2f:
+            return {"glTexCoord2f", "ff"};
         case Op::TexCoord2d:
             return {"glTexCoord2d", "dd"};
         case Op::Enable:

@@ -59,6 +59,9 @@ void setAttribute(Op op, const Arguments& a) {
         case Op::Color4d:
             ::glColor4d(a.d(0), a.d(1), a.d(2), a.d(3));
             break;
+        case Op::TexCoord2f:
+            ::glTexCoord2f(a.f(0), a.f(1));
+            break;
         case Op::TexCoord2d:
             ::glTexCoord2d(a.d(0), a.d(1));
             break;
@@ -204,6 +207,7 @@ void executeCall(const Operation& operation) {
         case Op::Color3d:
         case Op::Color4f:
         case Op::Color4d:
+        case Op::TexCoord2f:
         case Op::TexCoord2d:
         case Op::RasterPos3f:
         case Op::Sphere:

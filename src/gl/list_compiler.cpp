@@ -69,6 +69,7 @@ unsigned takeAttribute(const Operation& operation, Vertex& values) {
         case Op::Color4d:
             values.color = {f(0), f(1), f(2), f(3)};
             return colorAttribute;
+        case Op::TexCoord2f:
         case Op::TexCoord2d:
             values.texCoord = {f(0), f(1)};
             return texCoordAttribute;

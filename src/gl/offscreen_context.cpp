@@ -48,20 +48,32 @@ OffscreenContext::OffscreenContext() : display_(openDisplay()), context_(createC
         makeCurrent();
         requireCompatibilityContext();
     } catch (...) {
-        eglMakeCurrent(display_, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+        release();
         eglDestroyContext(display_, context_);
         throw;
     }
 }
 
 OffscreenContext::~OffscreenContext() {
-    if (eglGetCurrentContext() == context_) eglMakeCurrent(display_, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+    if (eglGetCurrentContext() == context_) release();
     eglDestroyContext(display_, context_);
 }
 
 void OffscreenContext::makeCurrent() const {
     if (eglMakeCurrent(display_, EGL_NO_SURFACE, EGL_NO_SURFACE, context_) == EGL_FALSE)
         fail("EGL cannot make the OpenGL context current");
+}
+
+void OffscreenContext::release() const {
+    eglMakeCurrent(display_, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+}
+
+std::future<std::unique_ptr<OffscreenContext>> OffscreenContext::prepare() {
+    return std::async(std::launch::async, [] {
+        auto context = std::make_unique<OffscreenContext>();
+        context->release();
+        return context;
+    });
 }
 
 }  // namespace tessaplot::gl

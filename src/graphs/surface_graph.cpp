@@ -84,7 +84,7 @@ class SurfaceCells {
         emitNormal(normal);
         for (std::size_t k = 0; k < corners.size(); ++k) {
             const Place& at = corners[k];
-            list_.glTexCoord2d(static_cast<float>(textureU(at.i)), static_cast<float>(textureV(at.j)));
+            list_.glTexCoord2f(static_cast<float>(textureU(at.i)), static_cast<float>(textureV(at.j)));
             emitColorAndVertex(at, colors[k]);
         }
     }

@@ -84,6 +84,8 @@ void PlainDrawing::callVertex(const Operation& operation) {
             return ::glColor4f(f(n[0]), f(n[1]), f(n[2]), f(n[3]));
         case Op::Color4d:
             return ::glColor4d(n[0], n[1], n[2], n[3]);
+        case Op::TexCoord2f:
+            return ::glTexCoord2f(f(n[0]), f(n[1]));
         case Op::TexCoord2d:
             return ::glTexCoord2d(n[0], n[1]);
         default:

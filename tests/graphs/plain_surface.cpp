@@ -220,7 +220,7 @@ void plainSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& contex
                     const int b = corners[k][1];
                     const double tu = double(U - a) / U;
                     const double tv = double(V - b) / V;
-                    if (flat) list.glTexCoord2d(float(tu), float(tv));
+                    if (flat) list.glTexCoord2f(float(tu), float(tv));
                     if (!flat && !overlay) list.glTexCoord2d(tu, tv);
                     if (!flat) list.glNormal3d(VN[a][b][0], VN[a][b][1], VN[a][b][2]);
                     overlay ? list.glColor3d(rgb[k].r, rgb[k].g, rgb[k].b) : color(rgb[k]);
