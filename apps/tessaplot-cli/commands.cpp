@@ -3,8 +3,11 @@
 #include <cstdint>
 #include <cstdio>
 #include <iostream>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/failure.h"
@@ -48,6 +51,47 @@ void turn(core::AppState& state, const std::string& view) {
     if (view == "top") state.ShownGraphs.setAngles(0, -90, 0);
 }
 
+/// Opens the document and turns and fits it as the options say.
+void prepare(core::AppState& state, const std::filesystem::path& document, const RenderOptions& options) {
+    open(state, document, options.width, options.height);
+    turn(state, options.view);
+    state.QuickDraw = options.quick;
+    core::fitView(state);
+}
+
+std::filesystem::path picturePath(std::string pattern, const std::filesystem::path& document) {
+    constexpr std::string_view placeholder = "{}";
+    const std::string name = document.stem().string();
+    for (std::size_t at = 0; (at = pattern.find(placeholder, at)) != std::string::npos; at += name.size())
+        pattern.replace(at, placeholder.size(), name);
+    return pattern;
+}
+
+/// Draws one document after the other with one context.
+class PictureMaker {
+ public:
+    explicit PictureMaker(std::unique_ptr<gl::OffscreenContext> context) : context_(std::move(context)) {
+        context_->makeCurrent();
+        replay_.emplace();
+    }
+
+    void make(core::AppState& state, const std::filesystem::path& picture, const RenderOptions& options) {
+        replay_->draw(core::recordDisplay(state), options.width, options.height);
+        tellTrouble();
+        const std::vector<std::uint8_t> pixels = replay_->readPixels();
+        pictures::writePicture(picture, {pixels, replay_->width(), replay_->height(), 3});
+    }
+
+ private:
+    void tellTrouble() {
+        if (!std::exchange(told_, true) && !replay_->trouble().empty()) tell({{}, replay_->trouble()});
+    }
+
+    std::unique_ptr<gl::OffscreenContext> context_;
+    std::optional<gl::Replay> replay_;
+    bool told_ = false;
+};
+
 void print(const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stdout);
 }
@@ -61,20 +105,23 @@ core::Document readKnownDocument(const std::filesystem::path& path) {
     return *std::move(document);
 }
 
-void render(const RenderOptions& options) {
+bool render(const RenderOptions& options) {
     auto preparedContext = gl::OffscreenContext::prepare();
-    core::AppState state;
-    open(state, options.document, options.width, options.height);
-    turn(state, options.view);
-    state.QuickDraw = options.quick;
-    core::fitView(state);
-    const auto context = preparedContext.get();
-    context->makeCurrent();
-    gl::Replay replay;
-    replay.draw(core::recordDisplay(state), options.width, options.height);
-    if (!replay.trouble().empty()) tell({{}, replay.trouble()});
-    const std::vector<std::uint8_t> pixels = replay.readPixels();
-    pictures::writePicture(options.picture, {pixels, replay.width(), replay.height(), 3});
+    std::unique_ptr<PictureMaker> maker;
+    bool allDrawn = true;
+    for (const std::filesystem::path& document : options.documents) {
+        try {
+            core::AppState state;
+            prepare(state, document, options);
+            if (!maker) maker = std::make_unique<PictureMaker>(preparedContext.get());
+            maker->make(state, picturePath(options.picture, document), options);
+        } catch (const Failure& failure) {
+            if (failure.code() == FailureCode::OpenGl) throw;
+            tell({{}, failure.what()});
+            allDrawn = false;
+        }
+    }
+    return allDrawn;
 }
 
 void trace(const TraceOptions& options) {

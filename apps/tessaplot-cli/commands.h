@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "core/document.h"
 
@@ -11,8 +12,8 @@ namespace tessaplot::cli {
 core::Document readKnownDocument(const std::filesystem::path& path);
 
 struct RenderOptions {
-    std::filesystem::path document;
-    std::filesystem::path picture;
+    std::vector<std::filesystem::path> documents;
+    std::string picture;  ///< A path; "{}" in it stands for the name of the document without folder and extension.
     int width = 1000;
     int height = 800;
     std::string view;  ///< "iso", "front", "right", "top", or empty for the document's own.
@@ -26,8 +27,11 @@ struct TraceOptions {
     bool legend = false;
 };
 
+/// Draws each document into a picture of its own. One that cannot be drawn is told, and the others are drawn all the
+/// same; false if there was one.
+bool render(const RenderOptions& options);
+
 /// Each command prints its result on standard output and throws base::Failure if it cannot be done.
-void render(const RenderOptions& options);
 void trace(const TraceOptions& options);
 void info(const std::filesystem::path& document);
 void convert(const std::filesystem::path& from, const std::filesystem::path& to);

@@ -29,11 +29,26 @@ std::string parseSize(const std::string& text, cli::RenderOptions& options) {
     return {};
 }
 
+/// Without a pattern the last of two files is the picture.
+void takePicture(cli::RenderOptions& options) {
+    auto& documents = options.documents;
+    if (options.picture.empty()) {
+        if (documents.size() != 2)
+            throw CLI::ValidationError("render", "give a document and a picture, or several documents and --output");
+        options.picture = documents.back().string();
+        documents.pop_back();
+    }
+    if (documents.size() > 1 && options.picture.find("{}") == std::string::npos)
+        throw CLI::ValidationError("--output", "must hold {} for more than one document");
+}
+
 void addRender(CLI::App& app, cli::RenderOptions& options) {
-    CLI::App* command = app.add_subcommand("render", "Draw a document into a picture file");
+    CLI::App* command = app.add_subcommand("render", "Draw documents into picture files");
     addVersion(*command);
-    command->add_option("DOC", options.document, "The document")->required();
-    command->add_option("OUT", options.picture, "The picture; its extension tells the format")->required();
+    command->add_option("DOC... [OUT]", options.documents, "The documents; without --output one, then the picture")
+        ->required();
+    command->add_option("-o,--output", options.picture,
+                        "The pictures; {} stands for the name of the document, the extension tells the format");
     command
         ->add_option_function<std::string>(
             "--size", [](const std::string&) {}, "Width and height in pixels")
@@ -43,7 +58,10 @@ void addRender(CLI::App& app, cli::RenderOptions& options) {
     command->add_option("--view", options.view, "Standard view")
         ->check(CLI::IsMember({"iso", "front", "right", "top"}));
     command->add_flag("--quick", options.quick, "Two samples a pixel instead of eight");
-    command->callback([&options] { cli::render(options); });
+    command->callback([&options] {
+        takePicture(options);
+        if (!cli::render(options)) throw CLI::RuntimeError(1);
+    });
 }
 
 void addTrace(CLI::App& app, cli::TraceOptions& options) {

@@ -24,12 +24,24 @@ void put(const std::string& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
+TEST(Program, aFolderOfDocumentsIsDrawnInOneRunAndABadOneDoesNotStopTheOthers) {
+    const TemporaryFolder folder;
+    const ProgramRun run = cli({"render", sample("sphere"), folder / "missing.tsp", sample("cylinder"), "--output",
+                                folder / "small-{}.png", "--size", "40x30"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, testing::HasSubstr("missing.tsp"));
+    for (const char* name : {"small-sphere.png", "small-cylinder.png"})
+        EXPECT_TRUE(std::filesystem::exists(folder / name)) << name;
+}
+
 TEST(Program, wrongUsageAndFailuresHaveTheirOwnStatus) {
     const TemporaryFolder folder;
     for (const std::vector<std::string>& wrong :
          std::vector<std::vector<std::string>>{{},
                                                {"dance"},
                                                {"render", sample("sphere")},
+                                               {"render", sample("sphere"), sample("sphere"), folder / "x.png"},
+                                               {"render", sample("sphere"), sample("cylinder"), "-o", "x.png"},
                                                {"render", sample("sphere"), folder / "x.png", "--size", "10"},
                                                {"render", sample("sphere"), folder / "x.png", "--size", "10x0"},
                                                {"render", sample("sphere"), folder / "x.png", "--view", "below"},
