@@ -4,8 +4,10 @@
 #include <filesystem>
 
 #include "base/color.h"
+#include "flat_plots.h"
 #include "sample_builder.h"
 #include "surfaces.h"
+#include "volumes.h"
 
 namespace {
 
@@ -83,6 +85,8 @@ int main(int argc, char** argv) {
         writeCylinder(folder);
         writeSphere(folder);
         tessaplot::samples::writeSurfaces(folder);
+        tessaplot::samples::writeVolumes(folder);
+        tessaplot::samples::writeFlatPlots(folder);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "tessaplot-samples: %s\n", failure.what());
         return 1;

@@ -63,6 +63,43 @@ void SampleBuilder::irregularSurface(const std::vector<Row>& points, const Latti
     lastV_ = lattice.countY - 1;
 }
 
+void SampleBuilder::regularVolume(const std::array<int, 3>& count,
+                                  const std::function<Row(double, double, double)>& node) {
+    state_.panel.selectKind(data::DataKind::RegularVolume);
+    state_.panel.setText(1, std::to_string(count[0]));
+    state_.panel.setText(2, std::to_string(count[1]));
+    state_.panel.setText(4, std::to_string(count[2]));
+    state_.panel.layOut();
+    int at = 0;
+    for (int i = 0; i < count[0]; ++i)
+        for (int j = 0; j < count[1]; ++j)
+            for (int k = 0; k < count[2]; ++k)
+                setRow(++at, node(i / (count[0] - 1.0), j / (count[1] - 1.0), k / (count[2] - 1.0)));
+    lastU_ = count[0] - 1;
+    lastV_ = count[1] - 1;
+    lastH_ = count[2] - 1;
+}
+
+void SampleBuilder::irregularVolume(const std::vector<Row>& points, const VolumeLattice& lattice) {
+    data::DataPanel& panel = state_.panel;
+    panel.selectKind(data::DataKind::IrregularVolume);
+    panel.setText(3, std::to_string(points.size()));
+    panel.setText(4, std::to_string(lattice.countX));
+    panel.setText(7, std::to_string(lattice.countY));
+    panel.setText(10, std::to_string(lattice.countZ));
+    for (const int box : {1, 5, 8}) {
+        panel.setText(box, typed(lattice.minimum));
+        panel.setText(box + 1, typed(lattice.maximum));
+    }
+    panel.layOut();
+    int at = 0;
+    for (const Row& point : points)
+        setRow(++at, point);
+    lastU_ = lattice.countX - 1;
+    lastV_ = lattice.countY - 1;
+    lastH_ = lattice.countZ - 1;
+}
+
 graphs::Cls9& SampleBuilder::add(int graphType, const std::string& name) {
     auto graph = std::make_shared<graphs::Cls9>();
     graph->ID = ++state_.LastGraphId;
@@ -70,6 +107,7 @@ graphs::Cls9& SampleBuilder::add(int graphType, const std::string& name) {
     graph->NameS = name;
     graph->StepU = lastU_;
     graph->StepV = lastV_;
+    graph->StepH = lastH_;
     graph->Material = 13;
     state_.ShownGraphs.Graphs.push_back(graph);
     return *graph;

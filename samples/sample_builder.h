@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -29,6 +30,16 @@ struct Lattice {
     double maxY = 0;
 };
 
+/// The lattice that scattered points of a volume are brought to: counts of nodes along the three axes, and limits that
+/// are the same along all of them.
+struct VolumeLattice {
+    int countX = 0;
+    int countY = 0;
+    int countZ = 0;
+    double minimum = 0;
+    double maximum = 0;
+};
+
 /// Puts one sample document together and writes it the way the program saves.
 class SampleBuilder {
  public:
@@ -38,6 +49,10 @@ class SampleBuilder {
     void regularSurface(data::DataKind kind, int rows, int columns, const std::function<Row(double, double)>& node);
     /// Scattered points of a Cartesian surface.
     void irregularSurface(const std::vector<Row>& points, const Lattice& lattice);
+    /// A regular volume of `count` nodes along each axis; `node(u, v, w)` is asked with all three from 0 to 1.
+    void regularVolume(const std::array<int, 3>& count, const std::function<Row(double, double, double)>& node);
+    /// Scattered points of a volume.
+    void irregularVolume(const std::vector<Row>& points, const VolumeLattice& lattice);
     /// Adds a graph of a kind with its steps set for the data; the reference is good until the next one is added.
     graphs::Cls9& add(int graphType, const std::string& name);
     void titles(const std::string& x, const std::string& y, const std::string& z);
@@ -51,6 +66,7 @@ class SampleBuilder {
     core::AppState state_;
     int lastU_ = 1;
     int lastV_ = 1;
+    int lastH_ = 0;
 };
 
 }  // namespace tessaplot::samples

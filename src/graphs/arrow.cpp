@@ -16,9 +16,15 @@ double nonZeroLength(const scene::Vector3& v) {
     return length == 0 ? shortestLength : length;
 }
 
-/// The axis about which a cone along z turns into the direction `d`, of length 1.
+/// An axis about which a cone along z turns into the direction `d`; of length 0 for a cone that is there already.
+scene::Vector3 axisTowards(const scene::Vector3& d) {
+    if (d[2] == 0) return {-d[1], d[0], 0};
+    if (d[2] < 0 && d[0] == 0 && d[1] == 0) return {1, 0, 0};
+    return {-d[1] * d[2], d[0] * d[2], 0};
+}
+
 scene::Vector3 turningAxis(const scene::Vector3& d) {
-    const scene::Vector3 axis{-d[1] * d[2], d[0] * d[2], 0};
+    const scene::Vector3 axis = axisTowards(d);
     const double length = nonZeroLength(axis);
     return {axis[0] / length, axis[1] / length, 0};
 }

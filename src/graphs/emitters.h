@@ -22,6 +22,8 @@ class NodeTable : public GridTable<Node> {
     /// Takes every node from the grid of the data set. Throws SubscriptOutOfRange, before anything is allocated, if
     /// that is smaller.
     NodeTable(const data::ClsData& data, int lastI, int lastJ);
+    /// Nodes at the origin, as the kinds have that take none from the data.
+    NodeTable(int lastI, int lastJ) : GridTable(lastI, lastJ) {}
 };
 
 void emitPoint(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
@@ -33,11 +35,28 @@ void emitGridModel(gl::DisplayList& list, const Cls9& graph, const GraphContext&
 void emitSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& context, const NodeTable& nodes);
 /// The triangles of the last triangulation, filled and as edges.
 void emitTriangles(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
+/// The cells of the grid, flat at the lowest height, in the colours of their nodes' heights; unlit.
+void emitColorMap(gl::DisplayList& list, Cls9& graph, const GraphContext& context, const NodeTable& nodes);
+/// The contour lines of the heights in the plane of the lowest.
+void emitContourPlot(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
+/// The gradient of the heights as arrows in the plane of the lowest; border nodes have none.
+void emitVectors(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);
+/// The contour lines of the fill value on the surface.
+void emitContour3D(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
+/// A sphere at each node of the volume, as large as its value. Throws SubscriptOutOfRange for more than 250,000 nodes.
+void emitScatter4D(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
+/// The gradient of the volume's value as arrows. Throws SubscriptOutOfRange for a volume of one layer and for one of
+/// more than 250,000 nodes.
+void emitVectors4D(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
+/// The slices across Z, Y and X, filled, with contour lines and with vectors. Throws SubscriptOutOfRange, naming the
+/// slice, for one whose limits lie outside the grid.
+void emitSlices4D(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
+/// The surface on which the volume's value, unscaled, is `IsoSurValue`, in the colour map's colour for it.
+void emitIsoSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
 /// The polyline through row 0 of the graph's own table, with a ring at each node.
 void emitTable(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
 
-/// A cone from the first point to the second, in the graph's `Vect4DColor`. A cone across scene z is not turned: it
-/// points along z.
+/// A cone from the first point to the second, in the graph's `Vect4DColor`.
 void DrawArrow(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const Node& from, const Node& to);
 
 }  // namespace tessaplot::graphs

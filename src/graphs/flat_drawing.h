@@ -13,4 +13,11 @@ inline void beginFlatDrawing(gl::DisplayList& list) {
     list.glHint(GL_LINE_SMOOTH_HINT, GL_NICEST);
 }
 
+/// Ends the drawing of flat lines and arrows.
+inline void endFlatLines(gl::DisplayList& list) {
+    list.glDisable(GL_LINE_SMOOTH);
+    list.glDisable(GL_BLEND);
+    list.glEnable(GL_LIGHTING);
+}
+
 }  // namespace tessaplot::graphs

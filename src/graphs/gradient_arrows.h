@@ -4,15 +4,10 @@
 #include <cmath>
 #include <cstddef>
 
-#include "graphs/emitters.h"
+#include "graphs/make_room.h"
+#include "graphs/mesh_cell.h"
 
 namespace tessaplot::graphs {
-
-/// A place in the plane of a grid, in data axes.
-struct PlanePoint {
-    double x = 0;
-    double y = 0;
-};
 
 /// How far a value changes from node to node along both axes of a grid.
 struct Gradient {
@@ -30,7 +25,7 @@ bool gradientAt(const Value& valueAt, int i, int j, Gradient& gradient) {
     const double afterU = valueAt(i + 1, j);
     const double afterV = valueAt(i, j + 1);
     for (const double value : {here, beforeU, beforeV, afterU, afterV})
-        if (value == data::missingValue) return false;
+        if (isMissing(value)) return false;
     gradient.alongU = ((here - beforeU) + (afterU - here)) / 2;
     gradient.alongV = ((here - beforeV) + (afterV - here)) / 2;
     return true;
@@ -44,6 +39,12 @@ struct ArrowHeights {
 
 /// How many triangles the head of an arrow has.
 inline constexpr std::size_t arrowHeadSteps = 20;
+
+/// Makes room for an arrow at each inner node.
+inline void makeRoomForArrows(gl::DisplayList& list, const Cls9& graph) {
+    const std::size_t nodes = static_cast<std::size_t>(graph.StepU) * static_cast<std::size_t>(graph.StepV);
+    makeRoom(list, (4 + 5 * arrowHeadSteps) * nodes, (7 + 10 * arrowHeadSteps) * nodes);
+}
 
 /// The rim of an arrow's head about its tip, a hair past a full turn.
 inline const std::array<PlanePoint, arrowHeadSteps + 1>& arrowRim() {

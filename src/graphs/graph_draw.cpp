@@ -1,3 +1,5 @@
+#include <array>
+
 #include "base/failure.h"
 #include "graphs/color_fill.h"
 #include "graphs/emitters.h"
@@ -8,7 +10,8 @@ namespace tessaplot::graphs {
 
 namespace {
 
-constexpr int neon = 5;
+/// Kinds that no command makes: colour maps whose nodes are never filled.
+constexpr std::array blankMap{2, 12, 21, 22};
 
 bool isPlanPlot(int type) {
     return type >= graph_type::colorMap && type <= graph_type::nodesOnly;
@@ -22,7 +25,7 @@ void requireSteps(const Cls9& graph) {
 
 void emitMaterial(gl::DisplayList& list, int type) {
     list.glEnable(GL_COLOR_MATERIAL);
-    list.glColorMaterial(GL_FRONT_AND_BACK, type == neon ? GL_EMISSION : GL_DIFFUSE);
+    list.glColorMaterial(GL_FRONT_AND_BACK, type == scene::neon ? GL_EMISSION : GL_DIFFUSE);
     scene::Cls11 material;
     material.SetMaterial(list, type);
 }
@@ -38,6 +41,25 @@ void emitKind(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
         case graph_type::surface:
             emitSurface(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
             break;
+        case graph_type::colorMap:
+            emitColorMap(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
+            break;
+        case blankMap[0]:
+        case blankMap[1]:
+        case blankMap[2]:
+        case blankMap[3]:
+            requireGrid(context.data, graph.StepU, graph.StepV);
+            emitColorMap(list, graph, context, NodeTable(graph.StepU, graph.StepV));
+            break;
+        case graph_type::contour:
+            emitContourPlot(list, graph, context);
+            break;
+        case graph_type::vector:
+            emitVectors(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
+            break;
+        case graph_type::contour3D:
+            emitContour3D(list, graph, context);
+            break;
         case graph_type::delaunay:
             emitTriangles(list, graph, context);
             break;
@@ -46,6 +68,18 @@ void emitKind(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
             break;
         case graph_type::gridModel:
             emitGridModel(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
+            break;
+        case graph_type::scatter4D:
+            emitScatter4D(list, graph, context);
+            break;
+        case graph_type::vector4D:
+            emitVectors4D(list, graph, context);
+            break;
+        case graph_type::slice4D:
+            emitSlices4D(list, graph, context);
+            break;
+        case graph_type::isoSurface:
+            emitIsoSurface(list, graph, context);
             break;
         default:
             break;

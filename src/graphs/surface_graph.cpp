@@ -158,6 +158,7 @@ void emitSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& context
         list.glDisable(GL_BLEND);
         list.glDepthMask(true);
     }
+    if (graph.ShowContour) emitValueContours(list, graph, context);
     if (graph.ShowVector) emitValueArrows(list, graph, context, nodes);
 }
 

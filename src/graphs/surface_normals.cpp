@@ -40,6 +40,8 @@ bool closesAlongU(const NodeTable& nodes, int lastU, int lastV, const SeamTolera
 Direction crossNormal(const Direction& a, const Direction& b) {
     const Direction n{a.y * b.z - a.z * b.y, a.z * b.x - b.z * a.x, b.y * a.x - a.y * b.x};
     const double length = lengthOf(n);
+    // A cell with a node that is no number is a hole; its normal must not spoil those of the nodes round it.
+    if (!std::isfinite(length)) return {};
     return over(n, length == 0 ? 1.0 / 10000 : length);
 }
 

@@ -12,7 +12,7 @@ struct Direction {
     double z = 0;
 };
 
-/// The cross product of `a` and `b` at length 1. A product of length 0 stays so.
+/// The cross product of `a` and `b` at length 1. A product of length 0 stays so; one that is no finite number is 0.
 Direction crossNormal(const Direction& a, const Direction& b);
 
 /// `v` at length 1; a length of 0 stays so.

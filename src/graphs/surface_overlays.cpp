@@ -1,5 +1,6 @@
 #include "graphs/surface_overlays.h"
 
+#include "graphs/contour_lines.h"
 #include "graphs/flat_drawing.h"
 #include "graphs/gradient_arrows.h"
 #include "graphs/make_room.h"
@@ -63,14 +64,21 @@ void emitColorPlane(gl::DisplayList& list, const Cls9& graph, const GraphContext
             plane.emitCell(i, j);
 }
 
+void emitValueContours(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
+    constexpr int ownColor = 4;
+    const auto valueAt = [&](int i, int j) { return context.data.Reg3DC(i, j); };
+    const ContourStyle black{graph.ContourLevel, ownColor, 0, 0, graph.LineWidth};
+    emitContourLines(list, graph, context, surfaceGrid(graph, valueAt), overlayHeight(graph), black,
+                     ContourPass::AcrossZ);
+}
+
 void emitValueArrows(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes) {
     const auto valueAt = [&](int i, int j) { return context.data.Reg3DC(i, j); };
     const auto vertex = [&](const PlanePoint& at, double height) {
         emitUpright(list, context.scene, at.y, height, at.x);
     };
     const ArrowHeights heights{overlayHeight(graph), overlayHeight(graph)};
-    const std::size_t nodeCount = static_cast<std::size_t>(graph.StepU) * static_cast<std::size_t>(graph.StepV);
-    makeRoom(list, (4 + 5 * arrowHeadSteps) * nodeCount, (7 + 10 * arrowHeadSteps) * nodeCount);
+    makeRoomForArrows(list, graph);
     beginFlatDrawing(list);
     list.glColor3f(0, 0, 0);
     for (int i = 1; i < graph.StepU; ++i) {
@@ -82,9 +90,7 @@ void emitValueArrows(gl::DisplayList& list, const Cls9& graph, const GraphContex
                            vertex);
         }
     }
-    list.glDisable(GL_LINE_SMOOTH);
-    list.glDisable(GL_BLEND);
-    list.glEnable(GL_LIGHTING);
+    endFlatLines(list);
 }
 
 }  // namespace tessaplot::graphs

@@ -13,6 +13,9 @@ inline constexpr double overlayDepth = 3.0;
 void emitColorPlane(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes,
                     const SurfaceNormals& normals, SurfaceFill& fill);
 
+/// The contour lines of the fill value over the grid, flat below the surface.
+void emitValueContours(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
+
 /// The gradient of the fill value over the grid as black arrows, flat below the surface; border nodes have none.
 void emitValueArrows(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);
 

@@ -21,6 +21,9 @@ struct Cls11 {
     void SetMaterial(gl::DisplayList& list, int type);
 };
 
+/// The material that shines of itself: colours feed its emission. Its opacity is 0.
+inline constexpr int neon = 5;
+
 /// The names of materials 1 to 13, in this order.
 std::span<const std::string_view> materialNames();
 

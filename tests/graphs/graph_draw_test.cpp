@@ -68,6 +68,7 @@ TEST(GraphDraw, surfacesTakeBackTheRoomForOverlays) {
     for (const auto& [type, lowest] : {std::pair{6, 0.0}, {14, -3.0}}) {
         Cls9 graph = graphOf(type, 2, 2);
         graph.ShowContour = true;
+        graph.ContourLevel = graph.ContourLevels = 1;
         scene.drawn(graph);
         EXPECT_EQ(graph.MinZ, lowest) << type;
     }
@@ -219,7 +220,11 @@ TEST(Arrow, reachesFromTheFirstPointToTheSecond) {
     std::uniform_real_distribution<double> numbers(-5, 5);
     for (int n = 0; n < 100; ++n) {
         const Node from{numbers(engine), numbers(engine), numbers(engine)};
-        const Node to{numbers(engine), numbers(engine), numbers(engine)};
+        Node to{numbers(engine), numbers(engine), numbers(engine)};
+        // Among them those along an axis and those across it, which leave the rotation little to go by.
+        if (n % 2 == 1) to.z = from.z;
+        if (n % 3 == 1) to.x = from.x;
+        if (n % 5 < 3) to.y = from.y;
         gl::DisplayList list;
         DrawArrow(list, Cls9(), scene.context(), from, to);
         const Node tip = tipOf(list);
@@ -243,10 +248,8 @@ TEST(Arrow, keepsTheEndsOfItsArithmetic) {
                "\ngluCylinder " + cone + " 6 6\ngluDeleteQuadric\nglPopMatrix\n";
     };
     EXPECT_EQ(arrow({1, 1, 6}), expected("0 -0 0 0", "1 0 5"));
-    EXPECT_EQ(arrow({1, 1, -4}), expected("180 0 -0 0", "1 0 5"));
+    EXPECT_EQ(arrow({1, 1, -4}), expected("180 1 0 0", "1 0 5"));
     EXPECT_EQ(arrow({1, 1, 1}), expected("89.99979 -0 0 0", "2e-08 0 1e-07"));
-    EXPECT_NE(arrow({4, 5, 1}).find(" -0 0 0\ngluCylinder 1 0 5 6 6\n"), std::string::npos)
-        << "a cone across z has no axis to turn about";
 }
 
 }  // namespace

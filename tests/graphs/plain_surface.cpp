@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "geometry/contour.h"
 #include "graphs/color_fill.h"
 
 namespace tessaplot::graphs {
@@ -112,6 +113,38 @@ Table vertexNormals(const Cls9& graph, const Table& P, const Table& FN) {
         for (Triple& v : row)
             v = divided(v, 1);
     return VN;
+}
+
+void contours(gl::DisplayList& list, const Cls9& graph, const GraphContext& context) {
+    const scene::SceneState& at = context.scene;
+    const int m = graph.StepU + 1;
+    const int n = graph.StepV + 1;
+    std::vector<double> table(std::size_t(m * n));
+    for (int i = 0; i < m; ++i)
+        for (int j = 0; j < n; ++j)
+            table[std::size_t(i * n + j)] = context.data.Reg3DC(i, j);
+    const double dx = (graph.MaxX - graph.MinX) / graph.StepU;
+    const double dy = (graph.MaxY - graph.MinY) / graph.StepV;
+    const auto lines = geometry::CContour::Contour(
+        {m, n, dy, dx, graph.MinY - dy, graph.MinX - dx, table, std::size_t(n)}, {graph.ContourLevel, 4, 0, 0, {}});
+    list.glDisable(GL_LIGHTING);
+    list.glEnable(GL_LINE_SMOOTH);
+    list.glEnable(GL_BLEND);
+    list.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    list.glLineWidth(static_cast<float>(graph.LineWidth));
+    for (const auto& level : lines.levels) {
+        list.glColor3d(0, 0, 0);
+        for (const auto& segment : lines.of(level)) {
+            list.glColor3d(150, 150, 150);
+            list.glBegin(GL_LINES);
+            for (const auto& p : {segment.from, segment.to})
+                list.glVertex3d(p.A - at.SceneCenterX, graph.MinZ - 3.0 - at.SceneCenterY, p.B - at.SceneCenterZ);
+            list.glEnd();
+        }
+    }
+    list.glDisable(GL_LINE_SMOOTH);
+    list.glDisable(GL_BLEND);
+    list.glEnable(GL_LIGHTING);
 }
 
 void arrows(gl::DisplayList& list, const Cls9& graph, const GraphContext& context) {
@@ -234,6 +267,7 @@ void plainSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& contex
         list.glDisable(GL_BLEND);
         list.glDepthMask(true);
     }
+    if (graph.ShowContour) contours(list, graph, context);
     if (graph.ShowVector) arrows(list, graph, context);
 }
 

@@ -44,6 +44,9 @@ Cls9 randomSurface(Engine& engine, int stepU, int stepV) {
     graph.ShowIrregData = chance();
     graph.ShowColormap = chance();
     graph.ShowVector = chance();
+    graph.ShowContour = chance();
+    graph.ContourLevel = 0.75;
+    graph.LineWidth = pick(engine, 0, 3);
     return graph;
 }
 
@@ -148,17 +151,22 @@ TEST(Surface, seamsOfClosedSurfacesHaveNoCrease) {
 }
 
 TEST(Surface, aMissingNodeLeavesAHoleAsWideAsItself) {
-    SmallScene scene;
-    scene.fillSurface(5, 5);
-    scene.data.Reg3DZ(2, 2) = data::missingValue;
-    Cls9 graph = graphOf(graph_type::surface, 4, 4);
-    graph.Smoothness = 2;
-    const std::string text = scene.drawn(graph);
-    int holes = 0;
-    const std::string empty = "glBegin GL_QUADS\nglEnd\n";
-    for (std::size_t at = text.find(empty); at != std::string::npos; at = text.find(empty, at + 1))
-        ++holes;
-    EXPECT_EQ(holes, 4);
+    for (const double odd : {data::missingValue, std::numeric_limits<double>::quiet_NaN()}) {
+        for (const int smoothness : {2, 3}) {
+            SmallScene scene;
+            scene.fillSurface(5, 5);
+            scene.data.Reg3DZ(2, 2) = odd;
+            Cls9 graph = graphOf(graph_type::surface, 4, 4);
+            graph.Smoothness = smoothness;
+            const std::string text = scene.drawn(graph);
+            int holes = 0;
+            const std::string empty = "glBegin GL_QUADS\nglEnd\n";
+            for (std::size_t at = text.find(empty); at != std::string::npos; at = text.find(empty, at + 1))
+                ++holes;
+            EXPECT_EQ(holes, 4);
+            EXPECT_EQ(text.find("nan"), std::string::npos) << "the normals round the hole hold";
+        }
+    }
 }
 
 TEST(Surface, needsEveryNodeAndFillValueOfItsSteps) {

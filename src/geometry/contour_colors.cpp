@@ -1,0 +1,52 @@
+#include "geometry/contour_colors.h"
+
+#include <cmath>
+
+#include "base/failure.h"
+
+namespace tessaplot::geometry {
+
+namespace {
+
+/// The bytes of a packed colour, got in floating point and so signed as it is, over 255.
+ContourColor UnpackColour(base::PackedColor packed) {
+    const auto c = static_cast<double>(packed);
+    const double b = std::trunc(c / 256 / 256);
+    const double g = std::trunc((c - b * 256 * 256) / 256);
+    const double r = std::trunc(c - b * 256 * 256 - g * 256);
+    return {r / 255, g / 255, b / 255};
+}
+
+}  // namespace
+
+LevelColors::LevelColors(const ContourOptions& options, const LevelScale& scale)
+    : options_(options),
+      lower_(scale.lower()),
+      range_(scale.upper() - scale.lower()),
+      first_(UnpackColour(options.firstColour)),
+      last_(UnpackColour(options.lastColour)) {}
+
+std::optional<ContourColor> LevelColors::next(double level) {
+    switch (options_.colourMode) {
+        case 3:
+            return between(level);
+        case 4:
+            return first_;
+        case 5:
+            if (!options_.ColourFromMap) return {};
+            options_.ColourFromMap(level, lower_, range_, ramp_);
+            return ramp_;
+        default:
+            return {};
+    }
+}
+
+ContourColor LevelColors::between(double level) const {
+    if (range_ == 0)
+        throw base::Failure(base::FailureCode::DivisionByZero,
+                            "Contours have no colours from first to last: there is only one level.");
+    const auto channel = [&](double first, double last) { return (level - lower_) * (last - first) / range_ + first; };
+    return {channel(first_.r, last_.r), channel(first_.g, last_.g), channel(first_.b, last_.b)};
+}
+
+}  // namespace tessaplot::geometry

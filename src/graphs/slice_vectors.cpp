@@ -1,0 +1,44 @@
+#include "graphs/color_fill.h"
+#include "graphs/gradient_arrows.h"
+#include "graphs/make_room.h"
+#include "graphs/slice_graph.h"
+#include "graphs/smooth_lines.h"
+
+namespace tessaplot::graphs {
+
+namespace {
+
+/// Slices across Z have black vectors whatever colour is set.
+Rgb vectorColor(const SliceDrawing& drawing) {
+    return drawing.direction.across == VolumeAxis::Z ? Rgb{} : ColorToRGB(drawing.slice.VectColor);
+}
+
+}  // namespace
+
+void emitSliceVectors(gl::DisplayList& list, const SliceDrawing& drawing) {
+    const SlicePlane& plane = drawing.plane;
+    const auto valueAt = [&](int u, int v) { return plane(u, v).value; };
+    const auto vertex = [&](const Node& at) { emitUpright(list, drawing.context.scene, at.x, at.y, at.z); };
+    makeRoom(list, 4 * static_cast<std::size_t>(plane.countU()) * static_cast<std::size_t>(plane.countV()),
+             7 * static_cast<std::size_t>(plane.countU()) * static_cast<std::size_t>(plane.countV()));
+    beginSmoothLines(list, drawing.graph);
+    const Rgb color = vectorColor(drawing);
+    list.glColor3f(static_cast<float>(color.r), static_cast<float>(color.g), static_cast<float>(color.b));
+    for (int u = 1; u + 1 < plane.countU(); ++u) {
+        for (int v = 1; v + 1 < plane.countV(); ++v) {
+            Gradient gradient;
+            if (!gradientAt(valueAt, u, v, gradient)) continue;
+            const Node& from = plane(u, v).at;
+            Node tip = from;
+            along(tip, drawing.direction.first) += gradient.alongU;
+            along(tip, drawing.direction.second) += gradient.alongV;
+            list.glBegin(GL_LINES);
+            vertex(from);
+            vertex(tip);
+            list.glEnd();
+        }
+    }
+    endSmoothLines(list);
+}
+
+}  // namespace tessaplot::graphs

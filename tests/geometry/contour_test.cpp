@@ -1,0 +1,311 @@
+#include "geometry/contour.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <map>
+#include <random>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "geometry/missing_node.h"
+#include "geometry/plain_contour.h"
+
+namespace tessaplot::geometry {
+namespace {
+
+using base::FailureCode;
+using testing::ElementsAre;
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+/// A grid of values of its own, rows a little longer than needed, and a surface over it.
+struct Field {
+    Field(int rows, int columns, const std::function<double(int i, int j)>& valueAt) : m(rows), n(columns) {
+        for (int i = 1; i <= m; ++i)
+            for (int j = 1; j <= n + 2; ++j)
+                z.push_back(j <= n ? valueAt(i, j) : 1e9), surface.push_back(3 + 0.5 * i * j);
+    }
+    ContourGrid grid(double a = 0.3, double b = 0.7) {
+        return {m, n, a, b, -1.25, 2.5, z, static_cast<std::size_t>(n) + 2};
+    }
+    double& at(int i, int j) { return z[static_cast<std::size_t>((i - 1) * (n + 2) + j - 1)]; }
+
+    int m, n;
+    std::vector<double> z, surface;
+};
+
+ContourOptions every(double interval) {
+    ContourOptions options;
+    options.interval = interval;
+    options.colourMode = 0;
+    return options;
+}
+
+/// A way to make a field from a number generator.
+struct Kind {
+    const char* name;
+    double interval;
+    double (*at)(std::mt19937& random, int i, int j);
+};
+
+double uniform(std::mt19937& random, double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+}
+
+double orHole(std::mt19937& random, double value) {
+    const double holes[] = {missingNode, notANumber, infinity, -infinity, 1e300};
+    const auto pick = random() % 60;
+    return pick < 5 ? holes[pick] : value;
+}
+
+const Kind kinds[] = {
+    {"random", 0.3, [](std::mt19937& random, int, int) { return uniform(random, -1, 1); }},
+    {"random, fine", 0.011, [](std::mt19937& random, int, int) { return uniform(random, -1, 1); }},
+    {"waves", 0.2, [](std::mt19937&, int i, int j) { return std::sin(0.4 * i) * std::cos(0.3 * j) + 0.02 * i; }},
+    {"saddles", 0.25,
+     [](std::mt19937& random, int i, int j) { return ((i + j) % 2 != 0 ? 1 : -1) * uniform(random, 0.2, 1); }},
+    {"constant", 0.5, [](std::mt19937&, int, int) { return 1.5; }},
+    {"steps on levels", 0.25, [](std::mt19937& random, int, int) { return 0.25 * static_cast<int>(random() % 5); }},
+    {"large steps that no nudge moves", 1e15,
+     [](std::mt19937& random, int, int) { return 1e15 * static_cast<int>(random() % 4); }},
+    {"steps just below levels", 0.25,
+     [](std::mt19937& random, int, int) { return 0.25 * static_cast<int>(random() % 5) - 1e-5; }},
+    {"levels within reach of each other", 1.3e-5,
+     [](std::mt19937& random, int, int) { return uniform(random, -0.002, 0.002); }},
+    {"levels a nudge apart", 1e-5, [](std::mt19937& random, int, int) { return uniform(random, -0.001, 0.001); }},
+    {"large", 3e9, [](std::mt19937& random, int, int) { return uniform(random, -2e10, 3e10); }},
+    {"holes", 0.3, [](std::mt19937& random, int, int) { return orHole(random, uniform(random, -1, 1)); }},
+    {"holes in waves", 0.1,
+     [](std::mt19937& random, int i, int j) { return orHole(random, std::sin(0.4 * i) * std::cos(0.3 * j)); }},
+    {"near the marker", 2e-5,
+     [](std::mt19937& random, int, int) { return missingNode + 1e-5 * static_cast<int>(random() % 9) - 4e-5; }},
+    {"nothing but holes", 0.3, [](std::mt19937&, int, int) { return missingNode; }},
+};
+
+Field fieldOf(const Kind& kind, int m, int n, unsigned seed) {
+    std::mt19937 random(seed);
+    return {m, n, [&](int i, int j) { return kind.at(random, i, j); }};
+}
+
+class ContoursOf : public testing::TestWithParam<Kind> {};
+INSTANTIATE_TEST_SUITE_P(Fields, ContoursOf, testing::ValuesIn(kinds));
+
+/// Compares the bits, so that not-a-numbers of a grid are equal too.
+bool sameBits(const std::vector<double>& one, const std::vector<double>& other) {
+    return std::memcmp(one.data(), other.data(), one.size() * sizeof(double)) == 0;
+}
+
+auto rangesOf(const std::vector<ContourLevel>& levels) {
+    std::vector<std::tuple<double, std::size_t, std::size_t>> ranges;
+    ranges.reserve(levels.size());
+    for (const ContourLevel& level : levels)
+        ranges.emplace_back(level.value, level.first, level.end);
+    return ranges;
+}
+
+TEST_P(ContoursOf, AreThoseOfThePlainFormInThePlaneAndOnASurface) {
+    const std::pair<int, int> sizes[] = {{1, 1}, {1, 9}, {9, 1}, {2, 2}, {2, 7}, {5, 3}, {12, 12}, {31, 40}, {63, 64}};
+    for (unsigned seed = 1; seed <= 8; ++seed)
+        for (const auto& [m, n] : sizes) {
+            Field field = fieldOf(GetParam(), m, n, seed);
+            Field plainField = field;
+            Field planeField = field;
+            if (seed % 2 == 0) field.surface[0] = plainField.surface[0] = notANumber;
+            const auto plain = test::plainContour3D(plainField.grid(), plainField.surface, GetParam().interval);
+            const auto fast = CContour::Contour3D(field.grid(), field.surface, every(GetParam().interval));
+            ASSERT_EQ(rangesOf(fast.levels), rangesOf(plain.levels)) << m << " by " << n << ", seed " << seed;
+            ASSERT_TRUE(fast.segments == plain.segments) << m << " by " << n << ", seed " << seed;
+            ASSERT_TRUE(sameBits(field.z, plainField.z)) << m << " by " << n << ", seed " << seed;
+            if (seed % 2 == 0) continue;
+            const auto plane = CContour::Contour(planeField.grid(), every(GetParam().interval));
+            ASSERT_EQ(plane.segments.size(), plain.segments.size());
+            for (std::size_t s = 0; s < plane.segments.size(); ++s) {
+                const auto& [from, to] = plain.segments[s];
+                const ContourSegment<PlanePoint> expected = {{from.A, from.B}, {to.A, to.B}};
+                ASSERT_EQ(plane.segments[s], expected);
+            }
+        }
+}
+
+/// Every crossing of a level by its place, and how many ends of segments are due there: two, or one at a border.
+std::map<std::pair<double, double>, int> endsDue(Field& field, double level, double a, double b) {
+    std::map<std::pair<double, double>, int> due;
+    const auto add = [&](double from, double to, double j, double i, bool second, bool border) {
+        if ((from < level) == (to < level)) return;
+        const double t = (level - from) / (to - from);
+        due[{a * (j + (second ? t : 0)) - 1.25, b * (i + (second ? 0 : t)) + 2.5}] = border ? 1 : 2;
+    };
+    for (int i = 1; i <= field.m; ++i)
+        for (int j = 1; j <= field.n; ++j) {
+            if (i < field.m) add(field.at(i, j), field.at(i + 1, j), j, i, false, j == 1 || j == field.n);
+            if (j < field.n) add(field.at(i, j), field.at(i, j + 1), j, i, true, i == 1 || i == field.m);
+        }
+    return due;
+}
+
+TEST(ContoursOfAFieldWithoutHoles, UseEveryCrossingOnceAndHaveNoGapAtAnyScale) {
+    for (const int kind : {0, 2, 3})
+        for (const auto& [a, b] : {std::pair(0.3, 0.7), {1e-9, 1e-9}, {1e6, 1e-6}}) {
+            Field field = fieldOf(kinds[kind], 40, 30, 5);
+            const auto lines = CContour::Contour(field.grid(a, b), every(0.3));
+            ASSERT_FALSE(lines.levels.empty());
+            // At the smallest spacing the offsets swallow the differences between neighbours: only count there.
+            std::size_t crossings = 0;
+            for (const ContourLevel& level : lines.levels) {
+                std::map<std::pair<double, double>, int> ends;
+                for (const auto& [from, to] : lines.of(level))
+                    ++ends[{from.A, from.B}], ++ends[{to.A, to.B}];
+                const auto due = endsDue(field, level.value, a, b);
+                EXPECT_TRUE(a < 1e-8 || ends == due) << kinds[kind].name << ", level " << level.value;
+                for (const auto& [place, count] : endsDue(field, level.value, 1, 1))
+                    crossings += static_cast<std::size_t>(count);
+            }
+            EXPECT_EQ(2 * lines.segments.size(), crossings) << kinds[kind].name << ", spacing " << a;
+        }
+}
+
+TEST(ContourLines, TakeTheNearSideAtASaddleAndBeginAtTheBordersInOrder) {
+    Field field(2, 2, [](int i, int j) { return i == j ? -0.8 : 0.8; });
+    const ContourGrid grid = {2, 2, 1, 1, 0, 0, field.z, 4};
+    const auto lines = CContour::Contour(grid, every(1));
+    ASSERT_EQ(lines.levels.size(), 1U);
+    EXPECT_THAT(lines.segments, ElementsAre(ContourSegment<PlanePoint>{{1.5, 1}, {1, 1.5}},
+                                            ContourSegment<PlanePoint>{{1.5, 2}, {2, 1.5}}));
+}
+
+TEST(ContourLines, CloseFromTheirFirstCrossingTowardsRisingFirstIndex) {
+    Field field(3, 3, [](int i, int j) { return i == 2 && j == 2 ? 0.8 : -0.8; });
+    const ContourGrid grid = {3, 3, 10, 1, 0, 0, field.z, 5};
+    const auto lines = CContour::Contour(grid, every(1));
+    const PlanePoint start = {15, 2};
+    EXPECT_THAT(
+        lines.segments,
+        ElementsAre(ContourSegment<PlanePoint>{start, {20, 2.5}}, ContourSegment<PlanePoint>{{20, 2.5}, {25, 2}},
+                    ContourSegment<PlanePoint>{{25, 2}, {20, 1.5}}, ContourSegment<PlanePoint>{{20, 1.5}, start}));
+}
+
+TEST(ContourLines, LeaveAHoleNoWiderThanTheCellsOfAMissingNode) {
+    for (const double hole : {missingNode, notANumber, infinity, -infinity}) {
+        // A bowl: no saddles, whose sides depend on where a line comes from.
+        Field whole(40, 40, [](int i, int j) { return std::hypot(i - 17.3, j - 25.6); });
+        Field torn = whole;
+        torn.at(17, 22) = hole;
+        const auto middlesOf = [](Field& field) {
+            std::vector<std::pair<double, double>> middles;
+            for (const auto& [from, to] : CContour::Contour(field.grid(1, 1), every(0.4)).segments)
+                middles.emplace_back((from.A + to.A) / 2 + 1.25, (from.B + to.B) / 2 - 2.5);
+            std::sort(middles.begin(), middles.end());
+            return middles;
+        };
+        auto expected = middlesOf(whole);
+        const std::size_t all = expected.size();
+        std::erase_if(expected, [](const auto& middle) {
+            return std::abs(middle.first - 22) < 1 && std::abs(middle.second - 17) < 1;
+        });
+        ASSERT_LT(expected.size(), all);
+        EXPECT_TRUE(middlesOf(torn) == expected) << hole;
+    }
+}
+
+TEST(ContourLines, LieOnTheSurfaceWhoseHeightsAreTheValues) {
+    Field field = fieldOf(kinds[2], 30, 30, 1);
+    const std::vector<double> surface = field.z;
+    const auto lines = CContour::Contour3D(field.grid(), surface, every(0.1));
+    for (const ContourLevel& level : lines.levels)
+        for (const auto& [from, to] : lines.of(level))
+            EXPECT_NEAR(to.h, level.value, 2e-5);
+    EXPECT_GT(lines.segments.size(), 1000U);
+}
+
+TEST(Levels, ComeByRepeatedAdditionWithinTheRange) {
+    const auto levelsOf = [](double low, double high, double interval) {
+        Field field(1, 2, [&](int, int j) { return j == 1 ? low : high; });
+        std::vector<double> values;
+        for (const ContourLevel& level : CContour::Contour(field.grid(), every(interval)).levels)
+            values.push_back(level.value);
+        return values;
+    };
+    EXPECT_THAT(levelsOf(0, 0.45, 0.1), ElementsAre(0.1, 0.2, 0.1 + 0.1 + 0.1, 0.1 + 0.1 + 0.1 + 0.1));
+    EXPECT_THAT(levelsOf(-2, 1, 1), ElementsAre(-1, 0, 1));
+    EXPECT_THAT(levelsOf(0.2, 0.7, 5), testing::IsEmpty());
+    EXPECT_THAT(levelsOf(2e10, 3e10, 1e10), ElementsAre(2e10, 3e10)) << "the lower end of a range is at most 1e10";
+}
+
+TEST(Levels, RaiseTheNodesNearThemInTheGridAgainAtEachCall) {
+    Field field(1, 4, [](int, int j) { return std::vector{0.5, 1.0, 1.9999, 3.2}[static_cast<std::size_t>(j - 1)]; });
+    CContour::Contour(field.grid(), every(1));
+    EXPECT_EQ(field.at(1, 2), 1.0 + 1e-5);
+    EXPECT_EQ(field.at(1, 3), 1.9999 + 1e-5);
+    CContour::Contour(field.grid(), every(1));
+    EXPECT_EQ(field.at(1, 2), 1.0 + 1e-5 + 1e-5);
+    EXPECT_EQ(field.at(1, 1), 0.5);
+}
+
+TEST(Colours, FollowTheModeFromLevelToLevel) {
+    Field field(2, 2, [](int i, int) { return i == 1 ? 0.5 : 3.5; });
+    ContourOptions options = every(1);
+    options.firstColour = base::packColor(255, 0, 51);
+    options.lastColour = base::packColor(0, 102, 51);
+    const auto colours = [&](int mode) {
+        options.colourMode = mode;
+        std::vector<std::optional<ContourColor>> result;
+        for (const ContourLevel& level : CContour::Contour(field.grid(), options).levels)
+            result.push_back(level.color);
+        return result;
+    };
+    EXPECT_THAT(colours(4), ElementsAre(ContourColor{1, 0, 0.2}, ContourColor{1, 0, 0.2}, ContourColor{1, 0, 0.2}));
+    EXPECT_THAT(colours(3),
+                ElementsAre(ContourColor{1, 0, 0.2}, ContourColor{0.5, 0.2, 0.2}, ContourColor{0, 0.4, 0.2}));
+    EXPECT_THAT(colours(5), ElementsAre(std::nullopt, std::nullopt, std::nullopt)) << "no ramp";
+    EXPECT_THAT(colours(7), ElementsAre(std::nullopt, std::nullopt, std::nullopt));
+    options.ColourFromMap = [](double level, double lower, double range, ContourColor& color) {
+        color = {level, 10 * lower + range, color.b + 1};
+    };
+    EXPECT_THAT(colours(5), ElementsAre(ContourColor{1, 12, 1}, ContourColor{2, 12, 2}, ContourColor{3, 12, 3}));
+}
+
+FailureCode failureOf(ContourGrid grid, const ContourOptions& options) {
+    try {
+        CContour::Contour(grid, options);
+    } catch (const base::Failure& failure) {
+        return failure.code();
+    }
+    ADD_FAILURE() << "no failure";
+    return {};
+}
+
+TEST(WhatCannotBeTraced, IsAFailureAndNeverAHang) {
+    Field field(3, 3, [](int i, int j) { return 0.3 * i * j; });
+    for (const double interval : {0.0, -1.0, notANumber, infinity, 1e-9, 1e-320, 1e-4})
+        EXPECT_EQ(failureOf(field.grid(), every(interval)), FailureCode::BadInput) << interval;
+    Field far(3, 3, [](int i, int) { return -1e17 + 64 * i; });
+    EXPECT_EQ(failureOf(far.grid(), every(1e12)), FailureCode::BadInput) << "up to -1e10";
+    Field nearby(3, 3, [](int i, int) { return 1e10 - 4e-6 * i; });
+    EXPECT_EQ(failureOf(nearby.grid(), every(5e-7)), FailureCode::BadInput) << "a step that adds nothing";
+    ContourOptions single = every(2);
+    single.colourMode = 3;
+    EXPECT_EQ(failureOf(field.grid(), single), FailureCode::DivisionByZero);
+
+    std::vector<double> values(501 * 501);
+    for (const auto& [m, n] : {std::pair(501, 5), {5, 501}, {0, 5}, {5, 0}, {-1, 3}})
+        EXPECT_EQ(failureOf({m, n, 1, 1, 0, 0, values, 501}, every(1)), FailureCode::SubscriptOutOfRange) << m;
+    EXPECT_EQ(failureOf({500, 500, 1, 1, 0, 0, std::span(values).first(1000), 500}, every(1)),
+              FailureCode::SubscriptOutOfRange);
+    EXPECT_EQ(failureOf({5, 5, 1, 1, 0, 0, values, 4}, every(1)), FailureCode::SubscriptOutOfRange);
+    for (std::size_t k = 0; k < values.size(); k += 2)
+        values[k] = 1;
+    EXPECT_EQ(failureOf({500, 500, 1, 1, 0, 0, values, 501}, every(0.01)), FailureCode::BadInput) << "too many lines";
+}
+
+}  // namespace
+}  // namespace tessaplot::geometry

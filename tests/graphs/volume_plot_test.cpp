@@ -1,0 +1,334 @@
+#include <cmath>
+#include <limits>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "graphs/emitters.h"
+#include "plain_volume.h"
+#include "scene/material.h"
+#include "small_scene.h"
+
+namespace tessaplot::graphs {
+namespace {
+
+using testing::HasSubstr;
+using Engine = std::mt19937;
+
+int pick(Engine& engine, int least, int most) {
+    return std::uniform_int_distribution(least, most)(engine);
+}
+
+/// A volume of nodes at (x, y, z) = (i, 2 j, 3 k), with values by `value(x, y, z)`, brought to the scene.
+template <class Value>
+SmallScene volumeScene(const std::array<int, 3>& count, const Value& value) {
+    SmallScene scene;
+    scene.kind = data::DataKind::RegularVolume;
+    scene.scene.SceneMode = scene::mode4D;
+    data::ClsData& data = scene.data;
+    data.DataDim = 2;
+    data.DataType = 1;
+    data.StepsX = count[0];
+    data.StepsY = count[1];
+    data.StepsZ = count[2];
+    for (data::Array* array : {&data.Reg4DX, &data.Reg4DY, &data.Reg4DZ, &data.Reg4DV})
+        array->allocate(count[0], count[1], count[2]);
+    for (int i = 0; i < count[0]; ++i) {
+        for (int j = 0; j < count[1]; ++j) {
+            for (int k = 0; k < count[2]; ++k) {
+                data.Reg4DX(i, j, k) = i;
+                data.Reg4DY(i, j, k) = 2 * j;
+                data.Reg4DZ(i, j, k) = 3 * k;
+                data.Reg4DV(i, j, k) = value(i, 2.0 * j, 3.0 * k);
+            }
+        }
+    }
+    data.Normalize(scene.scaling);
+    return scene;
+}
+
+Cls9 volumeGraph(int type, const SmallScene& scene) {
+    Cls9 graph = graphOf(type, scene.data.StepsX - 1, scene.data.StepsY - 1);
+    graph.StepH = scene.data.StepsZ - 1;
+    graph.FillStyle = 5;
+    return graph;
+}
+
+SmallScene randomScene(Engine& engine) {
+    std::uniform_real_distribution<double> values(-3, 8);
+    SmallScene scene = volumeScene({pick(engine, 2, 5), pick(engine, 2, 5), pick(engine, 2, 5)},
+                                   [&](double, double, double) { return values(engine); });
+    for (const double hole : {data::missingValue, std::nan(""), std::numeric_limits<double>::infinity()})
+        for (data::Array* array : {&scene.data.Reg4DV, &scene.data.Reg4DX})
+            if (pick(engine, 0, 3) == 0)
+                (*array)(pick(engine, 0, scene.data.StepsX - 1), pick(engine, 0, scene.data.StepsY - 1),
+                         pick(engine, 0, scene.data.StepsZ - 1)) = hole;
+    scene.scene = {scene::mode4D, 0.5, -1.25, 2};
+    scene.kind = pick(engine, 0, 1) == 0 ? data::DataKind::RegularVolume : data::DataKind::IrregularVolume;
+    scene.data.Points = 2;
+    for (data::Array* array :
+         {&scene.data.Irreg4DX, &scene.data.Irreg4DY, &scene.data.Irreg4DZ, &scene.data.Irreg4DV}) {
+        array->allocate(2);
+        (*array)(0) = values(engine);
+        (*array)(1) = values(engine);
+    }
+    return scene;
+}
+
+/// Slices on layers and between them, whole and in part. `last` is the last index across, `unit` its spacing.
+void addRandomSlices(Engine& engine, SliceSet& slices, double unit, int last, int lastU, int lastV) {
+    slices.Num = pick(engine, 0, 2);
+    for (int n = 1; n <= slices.Num; ++n) {
+        SliceSet::Slice& slice = slices[n];
+        slice.Position = unit * pick(engine, 0, 4 * last) / 4;
+        slice.ShowColor = pick(engine, 0, 3) != 0;
+        slice.ShowCont = pick(engine, 0, 1) == 0;
+        slice.ShowVect = pick(engine, 0, 1) == 0;
+        slice.ContLevels = 1.5;
+        slice.VectColor = 0x4080c0;
+        if (pick(engine, 0, 1) == 0) continue;
+        slice.FirstBegin = pick(engine, 1, lastU + 1);
+        slice.FirstEnd = pick(engine, slice.FirstBegin, lastU + 1);
+        slice.SecondBegin = pick(engine, 1, lastV + 1);
+        slice.SecondEnd = pick(engine, slice.SecondBegin, lastV + 1);
+    }
+}
+
+TEST(VolumePlots, emitWhatThePlainLoopsEmit) {
+    Engine engine(66);
+    for (int round = 0; round < 300; ++round) {
+        const SmallScene scene = randomScene(engine);
+        Cls9 graph = volumeGraph(std::array{41, 42, 43}[static_cast<std::size_t>(round % 3)], scene);
+        graph.ShowIrregData = pick(engine, 0, 1) == 0;
+        graph.Scat4DColor = graph.Vect4DColor = 0x10c0ff;
+        graph.VectorColor = 0x2040ff;
+        graph.FirstColor = 0xff8000;
+        graph.FillStyle = pick(engine, 0, 1) == 0 ? 3 : 5;
+        graph.LineWidth = 2;
+        addRandomSlices(engine, graph.SlicesZ, 3, graph.StepH, graph.StepU, graph.StepV);
+        addRandomSlices(engine, graph.SlicesY, 2, graph.StepV, graph.StepU, graph.StepH);
+        addRandomSlices(engine, graph.SlicesX, 1, graph.StepU, graph.StepV, graph.StepH);
+        const GraphContext context = scene.context();
+        Cls9 plain = graph;
+        for (Cls9* one : {&graph, &plain})
+            one->GetBox(context);
+        // An infinite coordinate makes no range.
+        if (!std::isfinite(graph.MaxX)) continue;
+        gl::DisplayList fast;
+        gl::DisplayList literal;
+        if (graph.GraphType == graph_type::scatter4D) {
+            emitScatter4D(fast, graph, context);
+            plainScatter(literal, plain, context);
+        } else if (graph.GraphType == graph_type::vector4D) {
+            emitVectors4D(fast, graph, context);
+            plainVectors(literal, plain, context);
+        } else {
+            emitSlices4D(fast, graph, context);
+            plainSlices(literal, plain, context);
+        }
+        ASSERT_EQ(gl::toText(fast), gl::toText(literal)) << "round " << round;
+        ASSERT_EQ(gl::toText(fast).find("nan"), std::string::npos);
+    }
+}
+
+TEST(VolumePlots, vectorsOfTwoLayersStandOnTheFacesAlone) {
+    const SmallScene scene = volumeScene({4, 5, 2}, [](double x, double, double) { return x; });
+    Cls9 graph = volumeGraph(graph_type::vector4D, scene);
+    const auto arrows = [&] {
+        gl::DisplayList list;
+        graph.Draw(list, scene.context());
+        int cones = 0;
+        list.forEach([&](const gl::Operation& operation) { cones += operation.op == gl::Op::Cylinder ? 1 : 0; });
+        return cones;
+    };
+    // Below 3 x 4, above 2 x 3, in front and behind along the single row of cells: 3, 0, 4, 0.
+    EXPECT_EQ(arrows(), 12 + 6 + 3 + 4);
+    graph.StepH = 0;
+    EXPECT_THROW(arrows(), base::Failure);
+}
+
+TEST(VolumePlots, needEveryNodeOfTheirSteps) {
+    const SmallScene scene = volumeScene({3, 3, 3}, [](double x, double y, double z) { return x + y * z; });
+    for (const int type : {41, 42, 43, 44}) {
+        Cls9 graph = volumeGraph(type, scene);
+        EXPECT_NO_THROW(scene.drawn(graph)) << type;
+        graph.StepH = 9;
+        EXPECT_THROW(scene.drawn(graph), base::Failure) << type;
+    }
+}
+
+TEST(VolumePlots, markNoMoreNodesThanCanBeDrawn) {
+    const SmallScene scene = volumeScene({100, 51, 50}, [](double x, double, double) { return x; });
+    for (const int type : {41, 42}) {
+        Cls9 graph = volumeGraph(type, scene);
+        EXPECT_THROW(scene.drawn(graph), base::Failure);
+        graph.StepV = 5;
+        EXPECT_NO_THROW(scene.drawn(graph));
+    }
+}
+
+TEST(VolumePlots, linesUnderTheMaterialWithoutOpacityAreNotBlended) {
+    const SmallScene scene = volumeScene({4, 4, 4}, [](double x, double y, double) { return x * y; });
+    for (const int type : {42, 43}) {
+        Cls9 graph = volumeGraph(type, scene);
+        graph.SlicesZ.Num = 1;
+        graph.SlicesZ[1].ShowVect = true;
+        for (const auto& [material, blends] : {std::pair{13, true}, {scene::neon, false}}) {
+            graph.Material = material;
+            const std::string text = scene.drawn(graph);
+            const std::size_t line = text.find(type == 42 ? "gluCylinder" : "glBegin GL_LINES");
+            ASSERT_NE(line, std::string::npos);
+            EXPECT_EQ(text.rfind("glEnable GL_BLEND", line) > text.rfind("glDisable GL_BLEND", line) ||
+                          text.rfind("glDisable GL_BLEND", line) == std::string::npos,
+                      blends);
+        }
+    }
+}
+
+TEST(VolumePlots, sizeNoSphereByALargestValueOfZero) {
+    SmallScene scene = volumeScene({2, 2, 2}, [](double x, double, double) { return x - 1; });
+    Cls9 graph = volumeGraph(graph_type::scatter4D, scene);
+    EXPECT_THROW(scene.drawn(graph), base::Failure);
+}
+
+/// The colours of the vertices of slices, by place.
+std::map<std::vector<double>, std::vector<double>> colorsByPlace(const gl::DisplayList& list, bool& alike) {
+    std::map<std::vector<double>, std::vector<double>> colors;
+    std::vector<double> color;
+    list.forEach([&](const gl::Operation& operation) {
+        if (operation.op == gl::Op::Color3d) color.assign(operation.numbers.begin(), operation.numbers.end());
+        if (operation.op != gl::Op::Vertex3d) return;
+        const auto [entry, fresh] = colors.try_emplace({operation.numbers.begin(), operation.numbers.end()}, color);
+        alike = alike && entry->second == color;
+    });
+    return colors;
+}
+
+TEST(Slices, thatCrossAreColouredAlikeWhereTheyDo) {
+    const SmallScene scene = volumeScene({5, 6, 7}, [](double x, double y, double z) { return x * y - z * z; });
+    Cls9 graph = volumeGraph(graph_type::slice4D, scene);
+    for (const auto& [slices, position] :
+         {std::pair{&graph.SlicesX, 2.0}, {&graph.SlicesY, 4.0}, {&graph.SlicesZ, 6.0}}) {
+        slices->Num = 1;
+        (*slices)[1].Position = position;
+        (*slices)[1].ShowColor = true;
+    }
+    gl::DisplayList list;
+    graph.Draw(list, scene.context());
+    bool alike = true;
+    const std::size_t places = colorsByPlace(list, alike).size();
+    EXPECT_EQ(places, 5U * 6 + 5U * 7 + 6U * 7 - 5 - 6 - 7 + 1) << "crossing planes share their nodes";
+    EXPECT_TRUE(alike);
+}
+
+/// The first colour that a slice across Z at each of these positions has, drawn one after the other.
+std::vector<std::string> firstColors(const std::vector<double>& positions) {
+    const SmallScene scene = volumeScene({2, 2, 4}, [](double, double, double z) { return z; });
+    Cls9 graph = volumeGraph(graph_type::slice4D, scene);
+    graph.FillStyle = 3;
+    graph.FirstColor = base::packColor(255, 255, 255);
+    for (const double position : positions) {
+        SliceSet::Slice& slice = graph.SlicesZ[++graph.SlicesZ.Num];
+        slice.Position = position;
+        slice.ShowColor = true;
+    }
+    const std::string text = scene.drawn(graph);
+    std::vector<std::string> colors;
+    for (std::size_t at = text.find("glNormal3d"); at != std::string::npos; at = text.find("glNormal3d", at + 1)) {
+        const std::size_t color = text.find("glColor3d ", at) + 10;
+        colors.push_back(text.substr(color, text.find(' ', color) - color));
+    }
+    return colors;
+}
+
+TEST(Slices, outsideTheGridTakeTheLayerOfTheSliceBefore) {
+    EXPECT_EQ(firstColors({-5, 6, 40, 9, 9.00001}),
+              (std::vector<std::string>{"0", "0.6666666666666666", "0.6666666666666666", "1", "1"}));
+    const SmallScene scene = volumeScene({2, 5, 9}, [](double x, double y, double z) { return x + y + z; });
+    Cls9 graph = volumeGraph(graph_type::slice4D, scene);
+    graph.SlicesZ.Num = graph.SlicesY.Num = graph.SlicesX.Num = 1;
+    graph.SlicesZ[1].Position = 24;
+    graph.SlicesY[1].Position = -100;
+    try {
+        scene.drawn(graph);
+        FAIL() << "the layer of the slice across Z is not there across Y";
+    } catch (const base::Failure& failure) {
+        EXPECT_THAT(failure.what(), HasSubstr("slice 1 across Y"));
+    }
+}
+
+TEST(Slices, withLimitsOutsideTheGridAreNamed) {
+    const SmallScene scene = volumeScene({3, 4, 5}, [](double x, double y, double z) { return x + y + z; });
+    Cls9 graph = volumeGraph(graph_type::slice4D, scene);
+    graph.SlicesX.Num = 2;
+    SliceSet::Slice& slice = graph.SlicesX[2];
+    slice.ShowColor = slice.ShowCont = slice.ShowVect = true;
+    slice.ContLevels = 1;
+    slice.FirstEnd = 4;
+    slice.SecondEnd = 5;
+    EXPECT_NO_THROW(scene.drawn(graph)) << "across X the first limits are those of Y, the second those of Z";
+    for (int* limit : {&slice.FirstBegin, &slice.FirstEnd, &slice.SecondBegin, &slice.SecondEnd}) {
+        for (const int wrong : {-1, 6, 2000000000}) {
+            const int before = std::exchange(*limit, wrong);
+            try {
+                scene.drawn(graph);
+                ADD_FAILURE() << wrong;
+            } catch (const base::Failure& failure) {
+                EXPECT_EQ(failure.code(), base::FailureCode::SubscriptOutOfRange);
+                EXPECT_THAT(failure.what(), HasSubstr("slice 2 across X"));
+            }
+            *limit = before;
+        }
+    }
+    slice.FirstBegin = 4;
+    slice.FirstEnd = 1;
+    EXPECT_EQ(scene.drawn(graph).find("glVertex3d"), std::string::npos) << "nothing lies between limits the wrong way";
+    graph.SlicesX.Num = 51;
+    EXPECT_THROW(scene.drawn(graph), base::Failure);
+}
+
+TEST(IsoSurface, standsInTheFrameAtTheValueInItsOwnUnits) {
+    const auto radius = [](double x, double y, double z) { return std::hypot(x - 10, y - 20, z - 30); };
+    SmallScene scene = volumeScene({21, 21, 21}, radius);
+    scene.scene = {scene::mode4D, 1, 2, 3};
+    Cls9 graph = volumeGraph(graph_type::isoSurface, scene);
+    graph.IsoSurValue = 8;
+    gl::DisplayList list;
+    graph.Draw(list, scene.context());
+    int corners = 0;
+    std::vector<double> normal;
+    list.forEach([&](const gl::Operation& operation) {
+        if (operation.op == gl::Op::Normal3d) normal.assign(operation.numbers.begin(), operation.numbers.end());
+        if (operation.op != gl::Op::Vertex3d) return;
+        ++corners;
+        const double x = (operation.numbers[2] + 3) * scene.scaling.ScaleX;
+        const double y = (operation.numbers[0] + 1) * scene.scaling.ScaleY;
+        const double z = (operation.numbers[1] + 2) * scene.scaling.ScaleZ;
+        EXPECT_NEAR(radius(x, y, z), 8, 0.2);
+        // Towards lower values, that is inward.
+        EXPECT_LT(normal[2] * (x - 10) + normal[0] * (y - 20) + normal[1] * (z - 30), 0);
+    });
+    EXPECT_GT(corners, 300);
+    const std::string text = gl::toText(list);
+    EXPECT_NE(text.find("glPushMatrix\nglColor3d "), std::string::npos);
+    EXPECT_TRUE(text.ends_with("glEnd\nglPopMatrix\n"));
+}
+
+TEST(IsoSurface, refusesVolumesBeyondItsTable) {
+    const auto value = [](double x, double, double) { return x; };
+    const SmallScene largest = volumeScene({102, 2, 3}, value);
+    Cls9 graph = volumeGraph(graph_type::isoSurface, largest);
+    graph.IsoSurValue = 50;
+    EXPECT_NO_THROW(largest.drawn(graph));
+    const SmallScene larger = volumeScene({103, 2, 3}, value);
+    graph.StepU = 102;
+    EXPECT_THROW(larger.drawn(graph), base::Failure);
+}
+
+}  // namespace
+}  // namespace tessaplot::graphs
