@@ -100,6 +100,7 @@ void writeColorContour(const path& folder) {
     Cls9& lines = sample.add(graphs::graph_type::contour, "Contour Plot");
     lines.ContourLevels = 0.5;
     lines.ConFillType = line_color::single;
+    lines.ConWidth = 1;
     lines.ConColor1 = packColor(30, 30, 50);
     lines.ConColor2 = lines.ConColor1;
     sample.write(folder / "color_contour.tsp");
@@ -115,6 +116,7 @@ void writeContourVector(const path& folder) {
     Cls9& lines = sample.add(graphs::graph_type::contour, "Contour Plot");
     lines.ContourLevels = 0.25;
     lines.ConFillType = line_color::gradient;
+    lines.ConWidth = 1;
     lines.ConColor1 = packColor(0, 60, 255);
     lines.ConColor2 = packColor(255, 30, 0);
     Cls9& arrows = sample.add(graphs::graph_type::vector, "Vector Plot");

@@ -283,8 +283,8 @@ void writeVectorsAndIsoSurface(const path& folder) {
     SampleBuilder sample(scene::mode4D);
     sampleField(sample, {12, 12, 12}, cube(4), twoCharges);
     addVectors(sample, packColor(240, 130, 50));
-    addIsoSurface(sample, 3, "Rainbow");
-    addIsoSurface(sample, -2, "Rainbow");
+    addIsoSurface(sample, 3.2, "Rainbow");
+    addIsoSurface(sample, -3, "Rainbow");
     sample.write(folder / "4d_vector_isosurface.tsp");
 }
 

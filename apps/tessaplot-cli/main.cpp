@@ -48,7 +48,8 @@ void addRender(CLI::App& app, cli::RenderOptions& options) {
     command->add_option("DOC... [OUT]", options.documents, "The documents; without --output one, then the picture")
         ->required();
     command->add_option("-o,--output", options.picture,
-                        "The pictures; {} stands for the name of the document, the extension tells the format");
+                        "The pictures; {} stands for the name of the document, the extension tells the format: .png, "
+                        ".bmp, .pdf or .jpg");
     command
         ->add_option_function<std::string>(
             "--size", [](const std::string&) {}, "Width and height in pixels")

@@ -55,6 +55,10 @@ struct AppState {
     scene::Cls10 TheLight;
     bool FitOnRefresh = false;
     bool ShowEvalErrors = false;
+    bool AxisDialogOk = false;  ///< The axis dialog was closed with OK.
+    bool DialogOk = false;      ///< The property dialog of a graph that was shown last was closed with OK.
+    /// The ranges that the view dialog shows.
+    double ViewMinX = -50, ViewMaxX = 50, ViewMinY = -50, ViewMaxY = 50, ViewMinZ = -50, ViewMaxZ = 50;
     scene::RotateMode RotateMode = scene::RotateMode::None;
 
     scene::Quaternion CurQuat{0, 0, 0, 1};
@@ -64,6 +68,7 @@ struct AppState {
     CompiledScene compiled;
     platform::Desktop desktop;
     std::shared_ptr<graphs::TextureCache> textures = std::make_shared<graphs::TextureCache>();
+    std::filesystem::path samplesFolder;   ///< Where the documents of the Demo menu lie.
     std::filesystem::path documentFolder;  ///< Of the document opened last: its textures may lie there.
 
     graphs::GraphContext graphContext() const {

@@ -28,6 +28,9 @@ struct Document {
 
 inline constexpr int tokenTableSize = 500000;
 
+/// The text that the bytes of a document file hold; empty for none. No value if they are not a document's.
+std::optional<std::string> documentTextIn(std::string_view bytes);
+
 /// The text of a document file; empty for an empty file. Throws FileUnreadable, or BadInput if the bytes are not a
 /// document.
 std::string readDocumentFile(const std::filesystem::path& path);

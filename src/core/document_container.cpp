@@ -1,6 +1,8 @@
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "base/failure.h"
 #include "base/file.h"
@@ -50,19 +52,24 @@ std::string oldTail(const std::filesystem::path& path, std::size_t written) {
 
 }  // namespace
 
-std::string readDocumentFile(const std::filesystem::path& path) {
-    const std::string bytes = base::readFile(path);
-    if (bytes.empty()) return {};
-    if (bytes.size() < shortHeader || littleEndian(bytes, 0, 2) != textType)
-        throw base::Failure(base::FailureCode::BadInput,
-                            "The file \"" + path.string() + "\" is not a document of this program.");
+std::optional<std::string> documentTextIn(std::string_view bytes) {
+    if (bytes.empty()) return "";
+    if (bytes.size() < shortHeader || littleEndian(bytes, 0, 2) != textType) return std::nullopt;
     std::size_t start = shortHeader;
     std::size_t length = littleEndian(bytes, 2, 2);
     if (length == longMark && bytes.size() >= longHeader) {
         start = longHeader;
         length = littleEndian(bytes, shortHeader, 4);
     }
-    return fromFileBytes(std::string_view(bytes).substr(start, length));
+    return fromFileBytes(bytes.substr(start, length));
+}
+
+std::string readDocumentFile(const std::filesystem::path& path) {
+    std::optional<std::string> text = documentTextIn(base::readFile(path));
+    if (!text)
+        throw base::Failure(base::FailureCode::BadInput,
+                            "The file \"" + path.string() + "\" is not a document of this program.");
+    return *std::move(text);
 }
 
 void writeDocumentFile(const std::filesystem::path& path, std::string_view text) {

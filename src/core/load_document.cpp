@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/document.h"
+#include "core/graph_commands.h"
 #include "core/refresh.h"
 #include "core/triangulation.h"
 
@@ -34,16 +35,6 @@ void takeGraphs(AppState& state, std::vector<graphs::Cls9> graphs) {
         state.AllGraphs.Graphs.push_back(graph);
         state.List1.add(graph, state.scene.SceneMode);
     }
-}
-
-bool isVolumePlot(const graphs::Cls9& graph) {
-    return graph.GraphType >= graphs::graph_type::scatter4D && graph.GraphType <= graphs::graph_type::isoSurface;
-}
-
-/// The third step count is not in the record; it follows from the data.
-void takeVolumeSteps(AppState& state) {
-    for (const GraphPtr& graph : state.AllGraphs.Graphs)
-        if (isVolumePlot(*graph)) graph->StepH = state.TheData.StepsZ - 1;
 }
 
 /// Triangles are made for the graph read last alone; one that stands before others shows none until it is recomputed.
@@ -78,7 +69,8 @@ void showAllGraphs(AppState& state) {
     // Should the panel fail, no graph of this document may be drawn from the data of the one before.
     state.TheData = {};
     state.TheData.GetData(state.panel, state.scaling, state.gridding, state.desktop);
-    takeVolumeSteps(state);
+    for (const GraphPtr& graph : state.AllGraphs.Graphs)
+        takeVolumeSteps(*graph, state.TheData);
     state.FitOnRefresh = true;
     triangulateForLastGraph(state);
     try {

@@ -1,5 +1,7 @@
 #include "data/data_panel.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <utility>
@@ -38,6 +40,16 @@ std::vector<CountRule> countRules(DataKind kind) {
         default:
             return {};
     }
+}
+
+template <class Texts>
+bool isBlank(const Texts& texts) {
+    return std::ranges::all_of(texts, &std::string::empty);
+}
+
+[[noreturn]] void failFull(std::string_view what) {
+    throw base::Failure(base::FailureCode::BadInput,
+                        "The " + std::string(what) + " of the data grid is not empty; its text would be lost.");
 }
 
 std::vector<int> cleanedBoxes(DataKind kind) {
@@ -83,6 +95,48 @@ void DataPanel::setCell(int column, int row, std::string text) {
     const auto at = static_cast<std::size_t>(row) - 1;
     if (at >= rows_.size()) rows_.resize(at + 1);
     rows_[at][static_cast<std::size_t>(column) - 1] = std::move(text);
+}
+
+void DataPanel::insertRow(int row) {
+    checkCell(1, row);
+    const auto at = static_cast<std::ptrdiff_t>(row) - 1;
+    if (at < static_cast<std::ptrdiff_t>(rows_.size())) {
+        if (rows_.size() == maximumRows) {
+            if (!isBlank(rows_.back())) failFull("last row");
+            rows_.pop_back();
+        }
+        rows_.insert(rows_.begin() + at, Row{});
+    }
+    if (gridRows_ <= maximumRows) ++gridRows_;
+}
+
+void DataPanel::deleteRows(int first, int last) {
+    checkCell(1, first);
+    checkCell(1, last);
+    const auto stored = static_cast<std::ptrdiff_t>(rows_.size());
+    const std::ptrdiff_t from = std::min<std::ptrdiff_t>(first - 1, stored);
+    const std::ptrdiff_t to = std::min<std::ptrdiff_t>(last, stored);
+    if (from < to) rows_.erase(rows_.begin() + from, rows_.begin() + to);
+    gridRows_ = std::max(1, gridRows_ - std::max(0, last - first + 1));
+}
+
+void DataPanel::insertColumn(int column) {
+    checkCell(column, 1);
+    if (std::ranges::any_of(rows_, [](const Row& row) { return !row.back().empty(); })) failFull("last column");
+    for (Row& row : rows_)
+        std::rotate(row.begin() + column - 1, row.end() - 1, row.end());
+    if (gridColumns_ <= columns) ++gridColumns_;
+}
+
+void DataPanel::deleteColumns(int first, int last) {
+    checkCell(first, 1);
+    checkCell(last, 1);
+    if (last < first) return;
+    for (Row& row : rows_) {
+        const auto rest = std::move(row.begin() + last, row.end(), row.begin() + first - 1);
+        std::fill(rest, row.end(), std::string());
+    }
+    gridColumns_ = std::max(1, gridColumns_ - (last - first + 1));
 }
 
 void DataPanel::reserveRows(int rows) {

@@ -33,6 +33,14 @@ class DataPanel {
     const std::string& cell(int column, int row) const;
     void setCell(int column, int row, std::string text);
 
+    /// Puts an empty row or column before the given one, counted from 1; texts move on and the grid grows as far as the
+    /// store goes. Throws BadInput, with nothing changed, if a text would be pushed out of the store.
+    void insertRow(int row);
+    void insertColumn(int column);
+    /// Takes rows or columns out, first and last included; texts behind them move up and the grid shrinks.
+    void deleteRows(int first, int last);
+    void deleteColumns(int first, int last);
+
     /// Makes room for that many rows at once.
     void reserveRows(int rows);
 

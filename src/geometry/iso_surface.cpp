@@ -27,11 +27,11 @@ IsoVertex vertexBetween(const IsoNode& low, const IsoNode& high, float level) {
     const float length = lengthOf(direction);
     if (length == 0)
         throw base::Failure(base::FailureCode::DivisionByZero,
-                            "the normals of an iso-surface cancel each other between two nodes");
+                            "The normals of an iso-surface cancel each other between two nodes.");
     const IsoVertex vertex{divided(direction, length),
                            EdgePoint(low.position, high.position, low.value, high.value, level)};
     if (!isFinite(vertex.normal) || !isFinite(vertex.position))
-        throw base::Failure(base::FailureCode::Overflow, "the nodes of an iso-surface lie too far apart");
+        throw base::Failure(base::FailureCode::Overflow, "The nodes of an iso-surface lie too far apart.");
     return vertex;
 }
 

@@ -5,34 +5,15 @@
 
 namespace tessaplot::geometry {
 
-/// Where a corner of a cell lies, in steps from its first corner along the three indices: round the base, then above.
-struct CellCorner {
-    int i;
-    int j;
-    int k;
-};
-inline constexpr std::array<CellCorner, 8> cellCorners = {
-    {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}, {0, 0, 1}, {1, 0, 1}, {1, 1, 1}, {0, 1, 1}}};
-
 /// An edge of a cell: the corners that it joins, the one with the lower index first, so that all cells round the edge
-/// find the same crossing on it; and the index along which it runs, 0 to 2.
+/// find the same crossing on it. Corners 0 to 3 go round the base, from (i, j, k) to (i + 1, j, k) first; 4 to 7 lie
+/// above them, at k + 1.
 struct CellEdge {
     int low;
     int high;
-    int axis;
 };
-inline constexpr std::array<CellEdge, 12> cellEdges = {{{0, 1, 0},
-                                                        {1, 2, 1},
-                                                        {3, 2, 0},
-                                                        {0, 3, 1},
-                                                        {4, 5, 0},
-                                                        {5, 6, 1},
-                                                        {7, 6, 0},
-                                                        {4, 7, 1},
-                                                        {0, 4, 2},
-                                                        {1, 5, 2},
-                                                        {2, 6, 2},
-                                                        {3, 7, 2}}};
+inline constexpr std::array<CellEdge, 12> cellEdges = {
+    {{0, 1}, {1, 2}, {3, 2}, {0, 3}, {4, 5}, {5, 6}, {7, 6}, {4, 7}, {0, 4}, {1, 5}, {2, 6}, {3, 7}}};
 
 /// The edges that are crossed, a bit an edge, for each set of corners below the level, a bit a corner.
 inline constexpr std::array<std::int16_t, 256> EdgeTable = [] {

@@ -88,6 +88,17 @@ void emitLevels(gl::DisplayList& list, const Lines& lines, int lineWidth, const 
     endFlatLines(list);
 }
 
+/// Evenly spaced nodes: the place of the first and the way to the next.
+struct GridRow {
+    double start;
+    double spacing;
+};
+
+GridRow rowOver(double minimum, double maximum, int steps, bool runsDown) {
+    const double spacing = (maximum - minimum) / steps;
+    return runsDown ? GridRow{maximum, -spacing} : GridRow{minimum, spacing};
+}
+
 /// Puts the points of flat lines where the mode of the scene wants them.
 class PlaneVertices {
  public:
@@ -120,16 +131,20 @@ class PlaneVertices {
 
 }  // namespace
 
-ValueGrid surfaceGrid(const Cls9& graph, std::function<double(int, int)> valueAt) {
-    const double cellX = (graph.MaxX - graph.MinX) / graph.StepU;
-    const double cellY = (graph.MaxY - graph.MinY) / graph.StepV;
+ValueGrid surfaceGrid(const Cls9& graph, const GraphContext& context, std::function<double(int, int)> valueAt) {
+    const data::ClsData& data = context.data;
+    const bool isPlane = !data::isCurvilinear(context.kind);
+    const GridRow x =
+        rowOver(graph.MinX, graph.MaxX, graph.StepU, isPlane && data.Reg3DX(0, 0) > data.Reg3DX(graph.StepU, 0));
+    const GridRow y =
+        rowOver(graph.MinY, graph.MaxY, graph.StepV, isPlane && data.Reg3DY(0, 0) > data.Reg3DY(0, graph.StepV));
     return {.countU = graph.StepU + 1,
             .countV = graph.StepV + 1,
             .valueAt = std::move(valueAt),
-            .spacingU = cellX,
-            .spacingV = cellY,
-            .offsetU = graph.MinX - cellX,
-            .offsetV = graph.MinY - cellY};
+            .spacingU = x.spacing,
+            .spacingV = y.spacing,
+            .offsetU = x.start - x.spacing,
+            .offsetV = y.start - y.spacing};
 }
 
 void emitContourLines(gl::DisplayList& list, Cls9& graph, const GraphContext& context, const ValueGrid& grid,

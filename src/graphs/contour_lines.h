@@ -30,8 +30,9 @@ struct ValueGrid {
     double offsetV = 0;  ///< and along the second.
 };
 
-/// The grid of a surface's nodes over the ranges that the graph found last.
-ValueGrid surfaceGrid(const Cls9& graph, std::function<double(int, int)> valueAt);
+/// The grid of a surface's nodes over the ranges that the graph found last; data that are listed downwards have
+/// spacings below 0.
+ValueGrid surfaceGrid(const Cls9& graph, const GraphContext& context, std::function<double(int, int)> valueAt);
 
 /// Across which data axis the plane of flat contour lines stands in a 4D scene; scenes of other modes do not ask.
 enum class ContourPass {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/iso_surface.h"
 #include "gl/display_list.h"
 #include "graphs/graph.h"
 #include "graphs/grid_table.h"
@@ -43,15 +44,18 @@ void emitContourPlot(gl::DisplayList& list, Cls9& graph, const GraphContext& con
 void emitVectors(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);
 /// The contour lines of the fill value on the surface.
 void emitContour3D(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
-/// A sphere at each node of the volume, as large as its value. Throws SubscriptOutOfRange for more than 250,000 nodes.
+/// A sphere at each node of the volume, as large as its value. Throws SubscriptOutOfRange for more than 101^3 nodes.
 void emitScatter4D(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
 /// The gradient of the volume's value as arrows. Throws SubscriptOutOfRange for a volume of one layer and for one of
-/// more than 250,000 nodes.
+/// more than 101^3 nodes.
 void emitVectors4D(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
 /// The slices across Z, Y and X, filled, with contour lines and with vectors. Throws SubscriptOutOfRange, naming the
 /// slice, for one whose limits lie outside the grid.
 void emitSlices4D(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
-/// The surface on which the volume's value, unscaled, is `IsoSurValue`, in the colour map's colour for it.
+/// The surface on which the volume's value, unscaled, is `IsoSurValue`, in data axes and scene units; without the last
+/// layer of nodes along each axis, which stays outside.
+geometry::IsoMesh isoSurfaceOf(const Cls9& graph, const GraphContext& context);
+/// That surface in the colour map's colour for its value.
 void emitIsoSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& context);
 /// The polyline through row 0 of the graph's own table, with a ring at each node.
 void emitTable(gl::DisplayList& list, Cls9& graph, const GraphContext& context);

@@ -1,4 +1,3 @@
-#include "geometry/iso_surface.h"
 #include "graphs/color_fill.h"
 #include "graphs/make_room.h"
 #include "graphs/mesh_cell.h"
@@ -8,14 +7,6 @@ namespace tessaplot::graphs {
 
 namespace {
 
-/// The surface in the volume without its last layer of nodes along each axis, which stays outside.
-geometry::IsoMesh extractedSurface(const Cls9& graph, const GraphContext& context) {
-    const data::ClsData& data = context.data;
-    if (graph.StepH < 1) return {};
-    return geometry::IsoSurface(graph.StepU - 1, graph.StepV - 1, graph.StepH - 1, data.Reg4DX, data.Reg4DY,
-                                data.Reg4DZ, data.Reg4DV, overScale(graph.IsoSurValue, context.scaling.ScaleV));
-}
-
 Rgb surfaceColor(Cls9& graph, const data::ClsData& data) {
     Rgb color;
     ValueToRGB(graph, graph.IsoSurValue, data.MInv, nonZeroSpan(data.MaxV - data.MInv), color);
@@ -24,8 +15,15 @@ Rgb surfaceColor(Cls9& graph, const data::ClsData& data) {
 
 }  // namespace
 
+geometry::IsoMesh isoSurfaceOf(const Cls9& graph, const GraphContext& context) {
+    const data::ClsData& data = context.data;
+    if (graph.StepH < 1) return {};
+    return geometry::IsoSurface(graph.StepU - 1, graph.StepV - 1, graph.StepH - 1, data.Reg4DX, data.Reg4DY,
+                                data.Reg4DZ, data.Reg4DV, overScale(graph.IsoSurValue, context.scaling.ScaleV));
+}
+
 void emitIsoSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
-    const geometry::IsoMesh mesh = extractedSurface(graph, context);
+    const geometry::IsoMesh mesh = isoSurfaceOf(graph, context);
     makeRoom(list, 8 * mesh.triangles.size(), 19 * mesh.triangles.size());
     list.glPushMatrix();
     const Rgb color = surfaceColor(graph, context.data);

@@ -7,7 +7,7 @@ namespace tessaplot::graphs {
 double overScale(double value, double scale) {
     if (scale == 0)
         throw base::Failure(base::FailureCode::DivisionByZero,
-                            "A position cannot be scaled: there is no scale before there are data.");
+                            "A number cannot be brought to scene units: there is no scale before there are data.");
     return value / scale;
 }
 

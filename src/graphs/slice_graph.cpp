@@ -11,6 +11,18 @@ namespace {
 /// What the contours of every slice have in common: each level has the slice's own colour.
 constexpr int oneColor = 4;
 
+/// The layers across an axis over the range that the graph found.
+LayerRow layersAcross(const VolumeGrid& volume, VolumeAxis axis, double minimum, double maximum) {
+    const int last = along(volume.last(), axis);
+    const double spacing = (maximum - minimum) / last;
+    VolumePlace end{};
+    along(end, axis) = last;
+    Node first = volume({}).at;
+    Node other = volume(end).at;
+    const bool runsDown = along(first, axis) > along(other, axis);
+    return runsDown ? LayerRow{maximum, -spacing, last} : LayerRow{minimum, spacing, last};
+}
+
 /// Draws the slices of a graph, one after the other.
 class Slices {
  public:
@@ -20,9 +32,9 @@ class Slices {
           context_(context),
           volume_(context.data, graph),
           fill_(graph),
-          rows_{{{graph.MinX, (graph.MaxX - graph.MinX) / graph.StepU, graph.StepU},
-                 {graph.MinY, (graph.MaxY - graph.MinY) / graph.StepV, graph.StepV},
-                 {graph.MinZ, (graph.MaxZ - graph.MinZ) / graph.StepH, graph.StepH}}},
+          rows_{layersAcross(volume_, VolumeAxis::X, graph.MinX, graph.MaxX),
+                layersAcross(volume_, VolumeAxis::Y, graph.MinY, graph.MaxY),
+                layersAcross(volume_, VolumeAxis::Z, graph.MinZ, graph.MaxZ)},
           scales_{context.scaling.ScaleX, context.scaling.ScaleY, context.scaling.ScaleZ} {}
 
     void emit(const SliceSet& slices, const SliceDirection& direction) {
@@ -64,8 +76,8 @@ class Slices {
                              [&](int u, int v) { return plane(u, v).value; },
                              first.spacing,
                              second.spacing,
-                             (limits.firstU - 1) * first.spacing + first.minimum,
-                             (limits.firstV - 1) * second.spacing + second.minimum};
+                             (limits.firstU - 1) * first.spacing + first.start,
+                             (limits.firstV - 1) * second.spacing + second.start};
         const ContourStyle style{drawing.slice.ContLevels, oneColor, drawing.slice.ContColor, drawing.slice.ContColor,
                                  graph_.LineWidth};
         emitContourLines(list_, graph_, context_, grid, position, style, drawing.direction.contourPass);

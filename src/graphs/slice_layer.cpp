@@ -1,5 +1,6 @@
 #include "graphs/slice_layer.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tessaplot::graphs {
@@ -12,17 +13,17 @@ constexpr double tolerance = 0.0001;
 
 void findLayer(const LayerRow& row, double position, SliceLayer& layer) {
     for (int k = 0; k < row.last; ++k) {
-        const double low = k * row.spacing + row.minimum;
-        const double high = (k + 1) * row.spacing + row.minimum;
-        if (position - low > tolerance && high - position > tolerance) {
-            layer = {k, k + 1, (position - low) / (high - low)};
+        const double here = k * row.spacing + row.start;
+        const double next = (k + 1) * row.spacing + row.start;
+        if (position - std::min(here, next) > tolerance && std::max(here, next) - position > tolerance) {
+            layer = {k, k + 1, (position - here) / (next - here)};
             return;
         }
-        if (std::abs(low - position) < tolerance) {
+        if (std::abs(here - position) < tolerance) {
             layer = {k, k, 0};
             return;
         }
-        if (std::abs(high - position) < tolerance) {
+        if (std::abs(next - position) < tolerance) {
             layer = {k + 1, k + 1, 0};
             return;
         }

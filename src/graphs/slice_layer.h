@@ -10,10 +10,10 @@ struct SliceLayer {
     double weight = 0;
 };
 
-/// The layers of a volume across one axis: layer k stands at `minimum` + k * `spacing`, k from 0 to `last`.
+/// The layers of a volume across one axis: layer k stands at `start` + k * `spacing`, k from 0 to `last`.
 struct LayerRow {
-    double minimum = 0;
-    double spacing = 0;
+    double start = 0;
+    double spacing = 0;  ///< Below 0 for data that are listed downwards.
     int last = 0;
 };
 

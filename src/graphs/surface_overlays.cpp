@@ -68,7 +68,7 @@ void emitValueContours(gl::DisplayList& list, Cls9& graph, const GraphContext& c
     constexpr int ownColor = 4;
     const auto valueAt = [&](int i, int j) { return context.data.Reg3DC(i, j); };
     const ContourStyle black{graph.ContourLevel, ownColor, 0, 0, graph.LineWidth};
-    emitContourLines(list, graph, context, surfaceGrid(graph, valueAt), overlayHeight(graph), black,
+    emitContourLines(list, graph, context, surfaceGrid(graph, context, valueAt), overlayHeight(graph), black,
                      ContourPass::AcrossZ);
 }
 
@@ -84,8 +84,8 @@ void emitValueArrows(gl::DisplayList& list, const Cls9& graph, const GraphContex
     for (int i = 1; i < graph.StepU; ++i) {
         for (int j = 1; j < graph.StepV; ++j) {
             Gradient gradient;
-            if (!gradientAt(valueAt, i, j, gradient)) continue;
             const Node& node = nodes(i, j);
+            if (isMissing(node.x) || isMissing(node.z) || !gradientAt(valueAt, i, j, gradient)) continue;
             emitPlaneArrow(list, {node.z, node.x}, {node.z + gradient.alongU, node.x + gradient.alongV}, heights,
                            vertex);
         }

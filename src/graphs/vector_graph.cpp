@@ -17,7 +17,7 @@ void emitVectors(gl::DisplayList& list, const Cls9& graph, const GraphContext& c
     for (int i = 1; i < graph.StepU; ++i) {
         for (int j = 1; j < graph.StepV; ++j) {
             Gradient gradient;
-            if (!gradientAt(heightOf, i, j, gradient)) continue;
+            if (isMissing(nodes(i, j)) || !gradientAt(heightOf, i, j, gradient)) continue;
             const Node& node = nodes(i, j);
             emitPlaneArrow(list, {node.z, node.x}, {node.z + gradient.alongU, node.x + gradient.alongV}, heights,
                            vertex);

@@ -36,8 +36,8 @@ inline bool isMissing(const VolumeNode& node) {
     return isMissing(node.at) || isMissing(node.value);
 }
 
-/// The most nodes that can be marked one by one: a solid each takes seconds to draw as it is, and hides all behind it.
-inline constexpr std::size_t mostMarkedNodes = 250'000;
+/// The most nodes that can be marked one by one, those of 101 along each axis: so many solids take a minute to draw.
+inline constexpr std::size_t mostMarkedNodes = 101 * 101 * 101;
 
 /// The part of the data set's volume that a graph draws: nodes (0, 0, 0) to its last indices.
 class VolumeGrid {

@@ -3,15 +3,19 @@
 #include <array>
 #include <cmath>
 
-#if defined(__x86_64__)
+// The stretches for one kind of processor are marked by pragmas that only GCC knows.
+#if defined(__x86_64__) && !defined(__clang__)
+#define SEVERAL_PROCESSORS 1
 #include <immintrin.h>
+#else
+#define SEVERAL_PROCESSORS 0
 #endif
 
 // A set of kernels is compiled for each kind of processor, and the first use picks the best that runs here.
 
 namespace tessaplot::numerics {
 
-#if defined(__x86_64__)
+#if SEVERAL_PROCESSORS
 
 #pragma GCC push_options
 #pragma GCC target("avx512f,prefer-vector-width=512")
@@ -82,7 +86,7 @@ struct Available {
     std::size_t count = 0;
 
     Available() {
-#if defined(__x86_64__)
+#if SEVERAL_PROCESSORS
         if (__builtin_cpu_supports("avx512f")) sets[count++] = &wide::set;
         if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma")) sets[count++] = &medium::set;
 #endif

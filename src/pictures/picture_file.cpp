@@ -4,6 +4,9 @@
 #include <QFile>
 #include <QImage>
 #include <QImageWriter>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QSaveFile>
 #include <array>
 #include <string>
@@ -20,6 +23,10 @@ constexpr int fastCompression = 12;
 
 constexpr int jpegQuality = 92;
 
+/// A page shows the picture in the size that it has on a common screen.
+constexpr int pixelsPerInch = 96;
+constexpr double pointsPerPixel = 72.0 / pixelsPerInch;
+
 std::string quoted(const std::filesystem::path& path) {
     return '"' + path.string() + '"';
 }
@@ -31,11 +38,11 @@ std::string quoted(const std::filesystem::path& path) {
 
 QByteArray formatOf(const std::filesystem::path& path) {
     const QByteArray extension = QByteArray::fromStdString(path.extension().string()).toLower();
-    static constexpr std::array<const char*, 4> known{".png", ".bmp", ".jpg", ".jpeg"};
+    static constexpr std::array<const char*, 5> known{".png", ".bmp", ".pdf", ".jpg", ".jpeg"};
     for (const char* candidate : known)
         if (extension == candidate) return extension.mid(1);
     throw base::Failure(base::FailureCode::BadInput,
-                        "The name of the picture " + quoted(path) + " must end in .png, .bmp, .jpg or .jpeg.");
+                        "The name of the picture " + quoted(path) + " must end in .png, .bmp, .pdf, .jpg or .jpeg.");
 }
 
 /// The pixels as an image that borrows them.
@@ -49,6 +56,28 @@ QImage imageOf(const std::filesystem::path& path, const Pixels& pixels) {
             pixels.channels == 3 ? QImage::Format_RGB888 : QImage::Format_RGBA8888};
 }
 
+bool writePage(QIODevice& device, const QImage& image) {
+    QPdfWriter page(&device);
+    page.setCreator("Tessaplot");
+    page.setResolution(pixelsPerInch);
+    page.setPageSize(QPageSize(QSizeF(image.size()) * pointsPerPixel, QPageSize::Point, {}, QPageSize::ExactMatch));
+    page.setPageMargins({});
+    QPainter painter;
+    if (!painter.begin(&page)) return false;
+    painter.setRenderHint(QPainter::LosslessImageRendering);
+    painter.drawImage(0, 0, image);
+    return painter.end();
+}
+
+void writeImage(const std::filesystem::path& path, QIODevice& device, const QByteArray& format, const QImage& image) {
+    QImageWriter writer(&device, format);
+    if (format == "png")
+        writer.setCompression(fastCompression);
+    else
+        writer.setQuality(jpegQuality);
+    if (!writer.write(image)) failToWrite(path, writer.errorString());
+}
+
 }  // namespace
 
 void writePicture(const std::filesystem::path& path, const Pixels& pixels) {
@@ -57,13 +86,10 @@ void writePicture(const std::filesystem::path& path, const Pixels& pixels) {
 
     QSaveFile file(QFile::decodeName(path.c_str()));
     if (!file.open(QIODevice::WriteOnly)) failToWrite(path, file.errorString());
-
-    QImageWriter writer(&file, format);
-    if (format == "png")
-        writer.setCompression(fastCompression);
-    else
-        writer.setQuality(jpegQuality);
-    if (!writer.write(image)) failToWrite(path, writer.errorString());
+    if (format != "pdf")
+        writeImage(path, file, format, image);
+    else if (!writePage(file, image))
+        failToWrite(path, "the page cannot be drawn");
     if (!file.commit()) failToWrite(path, file.errorString());
 }
 

@@ -14,9 +14,10 @@ struct Pixels {
     int channels = 3;  ///< 3: red, green, blue; 4: with alpha, which only PNG keeps.
 };
 
-/// Writes the picture in the format that the extension names: .png, .bmp, .jpg or .jpeg in any case. The file appears
-/// whole or not at all. Needs no application object and no display. Throws BadInput for another extension or for pixels
-/// that do not fill the picture, FileUnwritable if the file cannot be written.
+/// Writes the picture in the format that the extension names: .png, .bmp, .pdf (one page of the picture's size, at 96
+/// pixels an inch, without loss), .jpg or .jpeg in any case. The file appears whole or not at all. Needs no application
+/// object and no display. Throws BadInput for another extension or for pixels that do not fill the picture,
+/// FileUnwritable if the file cannot be written.
 void writePicture(const std::filesystem::path& path, const Pixels& pixels);
 
 }  // namespace tessaplot::pictures

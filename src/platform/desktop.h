@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/color.h"
 #include "base/failure.h"
 
 namespace tessaplot::platform {
@@ -42,6 +43,16 @@ struct Picture {
     std::vector<std::uint8_t> pixels;
 };
 
+/// A typeface as a font dialog gives it.
+struct FontChoice {
+    std::string name;
+    double size = 0;  ///< Points.
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strikeout = false;
+};
+
 /// What the logic asks of a desktop. Every member may stay empty: the defaults answer as a machine without a person
 /// does (questions get Cancel, messages and progress go nowhere). Tests hand in scripted functions.
 struct Desktop {
@@ -56,6 +67,23 @@ struct Desktop {
     std::function<void()> registerFileType;
     /// Reads a BMP, JPG or GIF file. Throws FileUnreadable with the reason.
     std::function<Picture(const std::filesystem::path&)> loadPicture;
+    /// Ask for a colour or a typeface, starting from the present one; nothing if the user cancelled.
+    std::function<std::optional<base::PackedColor>(base::PackedColor)> chooseColor;
+    std::function<std::optional<FontChoice>(const FontChoice&)> chooseFont;
+    std::function<void(std::string_view)> setClipboardText;
+    std::function<std::string()> clipboardText;
+    /// Put a bitmap file on the clipboard as a picture, or on a printer page from the origin in its own size.
+    std::function<void(const std::filesystem::path&)> copyPictureFile;
+    std::function<void(const std::filesystem::path&)> printPictureFile;
+    /// Opens a web page or a file of the help in the user's browser.
+    std::function<void(std::string_view)> openPage;
+    /// Lets pending events run.
+    std::function<void()> doEvents;
+    /// Reads the frame buffer from its lower left corner as RGB bytes, bottom row first, rows padded to 4 bytes;
+    /// columns beyond the surface hold anything. Throws Failure without a surface.
+    std::function<std::vector<std::uint8_t>(int width, int height)> readFrame;
+    /// Shows a popup menu at the pointer, by its name in the menu table.
+    std::function<void(std::string_view)> popUpMenu;
 
     Answer askUser(const Message& message) const;
     std::optional<FileChoice> chooseFileName(const FileQuestion& question) const;
@@ -65,6 +93,18 @@ struct Desktop {
     void progress(double share) const;
     /// `loadPicture`; without one every file is unreadable.
     Picture readPicture(const std::filesystem::path& path) const;
+    std::optional<base::PackedColor> pickColor(base::PackedColor present) const;
+    std::optional<FontChoice> pickFont(const FontChoice& present) const;
+    void copyText(std::string_view text) const;
+    /// The text on the clipboard, empty if there is none.
+    std::string copiedText() const;
+    void copyPicture(const std::filesystem::path& path) const;
+    void printPicture(const std::filesystem::path& path) const;
+    void showPage(std::string_view address) const;
+    void runPendingEvents() const;
+    /// `readFrame`; without one there is no picture, which throws OpenGl.
+    std::vector<std::uint8_t> frame(int width, int height) const;
+    void showPopUp(std::string_view menu) const;
 };
 
 }  // namespace tessaplot::platform

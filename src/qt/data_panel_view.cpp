@@ -123,10 +123,6 @@ void DataPanelView::orderTabs() {
     follow(grid_);
 }
 
-void DataPanelView::commitEdit() {
-    grid_->commitEdit();
-}
-
 void DataPanelView::sync(const data::DataPanel& panel) {
     combo_->setCurrentIndex(static_cast<int>(panel.kind()));
     const auto labels = data::boxLabelsOf(panel.kind());

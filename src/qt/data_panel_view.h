@@ -26,8 +26,7 @@ class DataPanelView : public QWidget {
     /// Shows what the panel holds; boxes without a label are hidden.
     void sync(const data::DataPanel& panel);
 
-    /// Stores what is being typed into the grid.
-    void commitEdit();
+    GridView* grid() const { return grid_; }
 
  signals:
     void kindChosen(int kind);

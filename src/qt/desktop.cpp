@@ -1,14 +1,23 @@
 #include "qt/desktop.h"
 
+#include <QApplication>
+#include <QColorDialog>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QMessageBox>
+#include <QUrl>
 #include <memory>
 
 #include "pictures/picture_reader.h"
+#include "qt/clipboard.h"
+#include "qt/file_type.h"
+#include "qt/help_window.h"
 #include "qt/main_window.h"
+#include "qt/printing.h"
 
 namespace tessaplot::qt {
 
@@ -17,6 +26,12 @@ namespace {
 using platform::Answer;
 using platform::Buttons;
 using platform::Icon;
+
+/// What a further dialog is to stand above: the dialog that is open, or else the window.
+QWidget* front(QWidget& window) {
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog != nullptr ? dialog : &window;
+}
 
 QMessageBox::Icon iconOf(Icon icon) {
     switch (icon) {
@@ -78,12 +93,12 @@ struct Filters {
 /// The file dialogs; each opens in the folder of the file chosen last.
 class FileChooser {
  public:
-    explicit FileChooser(QWidget* parent) : parent_(parent) {}
+    explicit FileChooser(QWidget& window) : window_(window) {}
 
     std::optional<platform::FileChoice> choose(const platform::FileQuestion& question) {
         const bool saves = question.mode == platform::FileQuestion::Mode::Save;
         const Filters filters(question.filter);
-        QFileDialog dialog(parent_, QString::fromStdString(question.title), folder_);
+        QFileDialog dialog(front(window_), QString::fromStdString(question.title), folder_);
         dialog.setObjectName("FileDialog");
         dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
         dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -103,23 +118,67 @@ class FileChooser {
     }
 
  private:
-    QWidget* parent_;
+    QWidget& window_;
     QString folder_ = QDir::currentPath();
 };
+
+std::optional<base::PackedColor> chooseColor(QWidget* parent, base::PackedColor present) {
+    const QColor chosen =
+        QColorDialog::getColor(QColor(base::RedOf(present), base::GreenOf(present), base::BlueOf(present)), parent);
+    if (!chosen.isValid()) return std::nullopt;
+    return base::packColor(chosen.red(), chosen.green(), chosen.blue());
+}
+
+std::optional<platform::FontChoice> chooseFont(QWidget* parent, const platform::FontChoice& present) {
+    QFont font(QString::fromStdString(present.name));
+    if (present.size > 0) font.setPointSizeF(present.size);
+    font.setBold(present.bold);
+    font.setItalic(present.italic);
+    font.setUnderline(present.underline);
+    font.setStrikeOut(present.strikeout);
+    bool chosen = false;
+    font = QFontDialog::getFont(&chosen, font, parent);
+    if (!chosen) return std::nullopt;
+    return platform::FontChoice{
+        font.family().toStdString(), font.pointSizeF(), font.bold(), font.italic(), font.underline(), font.strikeOut()};
+}
+
+/// Few desktops have a program for Markdown, and some have no browser: pages of the help are shown here then.
+void openPage(QWidget* parent, std::string_view target) {
+    const QString address = QString::fromUtf8(target.data(), static_cast<qsizetype>(target.size()));
+    const bool isFile = QFileInfo(address).isFile();
+    if (isFile && address.endsWith(".md")) return HelpWindow::open(parent, address);
+    if (QDesktopServices::openUrl(QUrl::fromUserInput(address, {}, QUrl::AssumeLocalFile))) return;
+    if (isFile && address.endsWith(".html")) return HelpWindow::open(parent, address);
+    throw base::Failure(base::FailureCode::FileUnreadable,
+                        "There is no program here that shows \"" + std::string(target) + "\".");
+}
 
 }  // namespace
 
 platform::Desktop makeDesktop(MainWindow& window) {
     platform::Desktop desktop;
-    desktop.ask = [&window](const platform::Message& message) { return ask(&window, message); };
-    desktop.chooseFile = [chooser = std::make_shared<FileChooser>(&window)](const platform::FileQuestion& question) {
+    desktop.ask = [&window](const platform::Message& message) { return ask(front(window), message); };
+    desktop.chooseFile = [chooser = std::make_shared<FileChooser>(window)](const platform::FileQuestion& question) {
         return chooser->choose(question);
     };
     desktop.showStatus = [&window](std::string_view text) { window.showStatus(text); };
     desktop.display = [&window] { window.displayPicture(); };
     desktop.closeWindow = [&window] { window.close(); };
     desktop.reportProgress = [&window](double share) { return window.reportProgress(share); };
+    desktop.registerFileType = registerFileType;
     desktop.loadPicture = pictures::readPicture;
+    desktop.chooseColor = [&window](base::PackedColor present) { return chooseColor(front(window), present); };
+    desktop.chooseFont = [&window](const platform::FontChoice& present) { return chooseFont(front(window), present); };
+    desktop.setClipboardText = setClipboardText;
+    desktop.clipboardText = clipboardText;
+    desktop.copyPictureFile = copyPictureFile;
+    desktop.printPictureFile = [&window](const std::filesystem::path& path) { printPictureFile(&window, path); };
+    desktop.openPage = [&window](std::string_view target) { openPage(&window, target); };
+    // What the user does meanwhile waits until the command is done with.
+    desktop.doEvents = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
+    desktop.readFrame = [&window](int width, int height) { return window.readFrame(width, height); };
+    desktop.popUpMenu = [&window](std::string_view name) { window.popUpMenu(name); };
     return desktop;
 }
 

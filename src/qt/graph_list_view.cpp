@@ -1,5 +1,6 @@
 #include "qt/graph_list_view.h"
 
+#include <QContextMenuEvent>
 #include <QScopedValueRollback>
 #include <utility>
 
@@ -58,6 +59,11 @@ void GraphListView::sync() {
     const QScopedValueRollback guard(syncing_, true);
     model_->sync();
     if (currentIndex().row() != list_.selected) setCurrentIndex(model_->index(list_.selected));
+}
+
+void GraphListView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    emit menuWanted(byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(currentIndex()).center()));
 }
 
 void GraphListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -43,8 +43,10 @@ class GraphListView : public QListView {
 
  signals:
     void entrySelected(int entry);
+    void menuWanted(QPoint globalPosition);
 
  protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:

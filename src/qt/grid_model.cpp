@@ -59,19 +59,37 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
 }
 
 void GridModel::sync() {
-    const int rows = panel_.gridRows() - 1;
-    const int columns = panel_.gridColumns() - 1;
-    if (rows != rows_ || columns != columns_) {
-        beginResetModel();
+    setRows(panel_.gridRows() - 1);
+    setColumns(panel_.gridColumns() - 1);
+    if (rows_ == 0 || columns_ == 0) return;
+    emit dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
+    emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
+    emit headerDataChanged(Qt::Vertical, 0, rows_ - 1);
+}
+
+/// The grid grows and shrinks at its end, so that the views keep what is selected.
+void GridModel::setRows(int rows) {
+    if (rows > rows_) {
+        beginInsertRows({}, rows_, rows - 1);
         rows_ = rows;
-        columns_ = columns;
-        endResetModel();
-        return;
+        endInsertRows();
+    } else if (rows < rows_) {
+        beginRemoveRows({}, rows, rows_ - 1);
+        rows_ = rows;
+        endRemoveRows();
     }
-    if (rows == 0 || columns == 0) return;
-    emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
-    emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
-    emit headerDataChanged(Qt::Vertical, 0, rows - 1);
+}
+
+void GridModel::setColumns(int columns) {
+    if (columns > columns_) {
+        beginInsertColumns({}, columns_, columns - 1);
+        columns_ = columns;
+        endInsertColumns();
+    } else if (columns < columns_) {
+        beginRemoveColumns({}, columns, columns_ - 1);
+        columns_ = columns;
+        endRemoveColumns();
+    }
 }
 
 }  // namespace tessaplot::qt

@@ -29,6 +29,9 @@ class GridModel : public QAbstractTableModel {
     void sync();
 
  private:
+    void setRows(int rows);
+    void setColumns(int columns);
+
     data::DataPanel& panel_;
     Guard guard_;
     int rows_ = 0;  ///< The shape that the views know, without the headers.

@@ -1,7 +1,9 @@
 #include "qt/grid_view.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -69,8 +71,8 @@ GridView::GridView(GridModel* model, QWidget* parent) : QTableView(parent) {
     layOutHeaders();
     nameIndexColumn();
     keepCurrentCell();
-    connect(model, &GridModel::modelReset, this, &GridView::keepCurrentCell);
-    connect(model, &GridModel::modelReset, this, &GridView::widenIndexColumn);
+    connect(model, &GridModel::rowsInserted, this, &GridView::keepCurrentCell);
+    connect(model, &GridModel::columnsInserted, this, &GridView::keepCurrentCell);
     connect(model, &GridModel::headerDataChanged, this, &GridView::widenIndexColumn);
 }
 
@@ -117,6 +119,44 @@ void GridView::move(CursorAction action) {
     if (next.isValid()) setCurrentIndex(next);
 }
 
+/// The selection is one block, though it may be kept in pieces.
+data::CellRange GridView::selectedCells() const {
+    QRect cells;
+    for (const QItemSelectionRange& piece : selectionModel()->selection())
+        cells |= QRect(QPoint(piece.left(), piece.top()), QPoint(piece.right(), piece.bottom()));
+    if (cells.isEmpty()) return {};
+    return {cells.top() + 1, cells.left() + 1, cells.bottom() + 1, cells.right() + 1};
+}
+
+void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTableView::selectionChanged(selected, deselected);
+    emit cellsSelected();
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    const QModelIndex cell = byMouse ? indexAt(event->pos()) : currentIndex();
+    if (!cell.isValid()) return;
+    const QPoint at = byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(cell).center());
+    emit menuWanted(cell.row() + 1, cell.column() + 1, at);
+}
+
+QAction* GridView::commandOf(const QKeyEvent& event) const {
+    const QKeySequence keys(event.keyCombination());
+    const auto found = std::ranges::find_if(commands_, [&](const QAction* command) {
+        return !command->shortcut().isEmpty() && command->shortcut() == keys;
+    });
+    return found == commands_.end() ? nullptr : *found;
+}
+
+bool GridView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && commandOf(*static_cast<QKeyEvent*>(event)) != nullptr) {
+        event->accept();
+        return true;
+    }
+    return QTableView::event(event);
+}
+
 void GridView::keyPressEvent(QKeyEvent* event) {
     // Tab stays in the grid, so something else must lead out of it.
     if (event->key() == Qt::Key_Tab && event->modifiers().testFlag(Qt::ControlModifier)) {
@@ -125,6 +165,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         setTabKeyNavigation(true);
         return;
     }
+    if (QAction* command = commandOf(*event)) return command->trigger();
     if (!isEnter(event->key())) return QTableView::keyPressEvent(event);
     move(event->modifiers().testFlag(Qt::ShiftModifier) ? MoveUp : MoveDown);
 }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPoint>
+#include <QTimer>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string_view>
@@ -10,6 +13,7 @@
 
 class QAction;
 class QLabel;
+class QMenu;
 
 namespace tessaplot::qt {
 
@@ -18,6 +22,7 @@ class GraphListView;
 class GridModel;
 class PicturePane;
 class ProgressPane;
+class ToolBar;
 
 /// The main window: the face of `frmF1`. It keeps nothing of the document; after every action of the user it shows anew
 /// what the logic holds.
@@ -36,23 +41,36 @@ class MainWindow : public QMainWindow {
 
     void showStatus(std::string_view text);
     void displayPicture();
+    /// The picture as `platform::Desktop::readFrame` tells.
+    std::vector<std::uint8_t> readFrame(int width, int height) const;
+    /// Shows a popup menu of the table at the pointer, once the present event is done with.
+    void popUpMenu(std::string_view name);
     /// Takes the progress of the command that runs; false asks it to stop.
     bool reportProgress(double share);
     /// Asks the command that runs to stop, if one does.
     void stopRun();
 
  protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
  private:
+    void makeMenus();
+    void makePopup(const char* name);
+    void makeToolBar();
     void makePanes();
     QWidget* makeListPane();
     void makeStatusBar();
+    void followPanel();
+    void followPicture();
     void takeDefaultSize();
     void setBlocked(bool blocked);
     /// Runs one action of the user. Another one that comes while it lets events run is dropped.
     void act(const std::function<void()>& action);
     void endRun();
+    void turnIdly();
+    void showHint(const QString& hint);
 
     ui::frmF1& form_;
     GridModel* gridModel_;
@@ -61,7 +79,11 @@ class MainWindow : public QMainWindow {
     PicturePane* picture_;
     ProgressPane* progress_;
     QLabel* status_;
-    std::vector<QAction*> commands_;
+    ToolBar* toolBar_ = nullptr;
+    std::vector<QAction*> commands_;  ///< Of the menu bar and the popup menus.
+    QTimer idle_;
+    QPoint popUpAt_;
+    QString hint_;  ///< In the status line; empty for none.
     bool acting_ = false;
     bool closesAfterRun_ = false;
 };

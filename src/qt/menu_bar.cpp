@@ -4,6 +4,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QString>
+#include <algorithm>
+
+#include "qt/command_icon.h"
+#include "ui/mouse.h"
 
 namespace tessaplot::qt {
 
@@ -16,11 +20,21 @@ QString qString(std::string_view text) {
 /// Makes the menus while it walks the table from top to bottom.
 class MenuMaker {
  public:
-    MenuMaker(QMenuBar& bar, const std::function<void(std::string_view)>& run) : bar_(bar), run_(run) {}
+    using Run = std::function<void(std::string_view)>;
 
+    MenuMaker(QMenuBar& bar, const Run& run) : bar_(&bar), run_(run) {}
+    MenuMaker(QMenu& popup, const Run& run) : run_(run), roots_(1), open_{&popup} {}
+
+    std::vector<QAction*> make(std::span<const ui::MenuEntry> entries) {
+        for (std::size_t i = 0; i < entries.size(); ++i)
+            add(entries[i], i + 1 < entries.size() && entries[i + 1].depth > entries[i].depth);
+        return std::move(commands_);
+    }
+
+ private:
     void add(const ui::MenuEntry& entry, bool hasEntries) {
-        open_.resize(static_cast<std::size_t>(entry.depth));
-        if (entry.depth == 0 || hasEntries)
+        open_.resize(static_cast<std::size_t>(entry.depth) + roots_);
+        if (open_.empty() || hasEntries)
             open_.push_back(addMenu(entry));
         else if (entry.name.empty())
             open_.back()->addSeparator();
@@ -28,12 +42,9 @@ class MenuMaker {
             addCommand(entry);
     }
 
-    std::vector<QAction*> commands;
-
- private:
     QMenu* addMenu(const ui::MenuEntry& entry) {
         const QString caption = qString(entry.caption);
-        QMenu* menu = open_.empty() ? bar_.addMenu(caption) : open_.back()->addMenu(caption);
+        QMenu* menu = open_.empty() ? bar_->addMenu(caption) : open_.back()->addMenu(caption);
         menu->setObjectName(qString(entry.name));
         return menu;
     }
@@ -41,26 +52,32 @@ class MenuMaker {
     void addCommand(const ui::MenuEntry& entry) {
         QAction* action = open_.back()->addAction(qString(entry.caption));
         action->setObjectName(qString(entry.name));
+        action->setIcon(commandIcon(action->objectName()));
+        action->setCheckable(std::ranges::find(ui::dragCommands, entry.name) != ui::dragCommands.end());
         action->setShortcut(QKeySequence::fromString(qString(entry.shortcut), QKeySequence::PortableText));
         action->setStatusTip(qString(entry.hint));
         action->setMenuRole(QAction::NoRole);
-        QObject::connect(action, &QAction::triggered, &bar_, [run = run_, name = entry.name] { run(name); });
-        commands.push_back(action);
+        QObject::connect(action, &QAction::triggered, action, [run = run_, name = entry.name] { run(name); });
+        commands_.push_back(action);
     }
 
-    QMenuBar& bar_;
-    const std::function<void(std::string_view)>& run_;
+    QMenuBar* bar_ = nullptr;
+    const Run& run_;
+    std::size_t roots_ = 0;     ///< Menus that are there before the first entry.
     std::vector<QMenu*> open_;  ///< The menu of each depth above the next entry.
+    std::vector<QAction*> commands_;
 };
 
 }  // namespace
 
 std::vector<QAction*> fillMenuBar(QMenuBar& bar, std::span<const ui::MenuEntry> entries,
                                   const std::function<void(std::string_view)>& run) {
-    MenuMaker maker(bar, run);
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        maker.add(entries[i], i + 1 < entries.size() && entries[i + 1].depth > entries[i].depth);
-    return maker.commands;
+    return MenuMaker(bar, run).make(entries);
+}
+
+std::vector<QAction*> fillPopupMenu(QMenu& popup, std::span<const ui::MenuEntry> entries,
+                                    const std::function<void(std::string_view)>& run) {
+    return MenuMaker(popup, run).make(entries);
 }
 
 }  // namespace tessaplot::qt

@@ -8,13 +8,16 @@
 
 #include "ui/menu_table.h"
 
+class QMenu;
 class QMenuBar;
 
 namespace tessaplot::qt {
 
-/// Fills the menu bar from its table. Returns the actions of the commands; each bears its command's name as its object
-/// name and hands it to `run` when it is chosen.
+/// Fill the menu bar or a popup menu from its table. Return the actions of the commands; each bears its command's name
+/// as its object name and hands it to `run` when it is chosen.
 std::vector<QAction*> fillMenuBar(QMenuBar& bar, std::span<const ui::MenuEntry> entries,
                                   const std::function<void(std::string_view)>& run);
+std::vector<QAction*> fillPopupMenu(QMenu& popup, std::span<const ui::MenuEntry> entries,
+                                    const std::function<void(std::string_view)>& run);
 
 }  // namespace tessaplot::qt

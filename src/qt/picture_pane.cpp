@@ -37,13 +37,17 @@ void PicturePane::makeSurface(core::AppState& state) {
     surface_->setAccessibleName(tr("Picture"));
     addWidget(surface_);
     setCurrentWidget(surface_);
-    connect(surface_, &PictureWidget::surfaceResized, this, &PicturePane::surfaceResized);
     // Queued: a surface must not be taken away while Qt prepares it.
     connect(surface_, &PictureWidget::refused, this, &PicturePane::giveUp, Qt::QueuedConnection);
 }
 
 void PicturePane::display() {
     if (surface_ != nullptr) surface_->update();
+}
+
+std::vector<std::uint8_t> PicturePane::readFrame(int width, int height) const {
+    if (surface_ == nullptr) throw base::Failure(base::FailureCode::OpenGl, "There is no picture without OpenGL.");
+    return surface_->readFrame(width, height);
 }
 
 void PicturePane::giveUp(const QString& reason) {

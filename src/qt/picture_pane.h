@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QStackedWidget>
+#include <cstdint>
+#include <vector>
 
 #include "core/app_state.h"
 
@@ -20,11 +22,11 @@ class PicturePane : public QStackedWidget {
     /// Shows the compiled scene as soon as the window system asks for it.
     void display();
 
-    /// False if there is no OpenGL to draw it with.
-    bool hasPicture() const { return surface_ != nullptr; }
+    /// The drawing surface; null if there is no OpenGL to draw with.
+    PictureWidget* surface() const { return surface_; }
 
- signals:
-    void surfaceResized(int width, int height);
+    /// `PictureWidget::readFrame`; throws Failure (OpenGl) without a surface.
+    std::vector<std::uint8_t> readFrame(int width, int height) const;
 
  private:
     void makeSurface(core::AppState& state);

@@ -6,6 +6,7 @@
 #include "core/app_state.h"
 #include "qt/application.h"
 #include "qt/desktop.h"
+#include "qt/installation.h"
 #include "qt/last_resort.h"
 #include "qt/main_window.h"
 #include "ui/main_window.h"
@@ -28,8 +29,11 @@ bool open(MainWindow& window, const core::AppState& state, const std::filesystem
 }  // namespace
 
 int runProgram(Application& application, const std::filesystem::path& document) {
+    const Installation installation = findInstallation();
     core::AppState state;
+    state.samplesFolder = installation.samples;
     ui::frmF1 form(state);
+    form.help = installation.help;
     MainWindow window(form);
     state.desktop = makeDesktop(window);
 

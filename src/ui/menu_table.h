@@ -5,10 +5,9 @@
 
 namespace tessaplot::ui {
 
-/// One entry of the menu bar. A separator has neither name nor caption; a submenu's entries follow it with a greater
-/// depth.
+/// One entry of a menu. A separator has neither name nor caption; a submenu's entries follow it with a greater depth.
 struct MenuEntry {
-    int depth = 0;  ///< 0 stands on the bar itself.
+    int depth = 0;  ///< 0 stands on the bar, or in the popup menu itself.
     std::string_view name;
     std::string_view caption;
     std::string_view shortcut = {};  ///< In the portable form "Ctrl+O", empty for none.
@@ -17,5 +16,9 @@ struct MenuEntry {
 
 /// The menu bar, from left to right and from top to bottom.
 std::span<const MenuEntry> menuBar();
+
+/// The entries of a popup menu: "FunEdit" of the graph list, "GraphEdit" of the picture, "mnuGE" of the data grid,
+/// whose shortcuts hold while the grid has the focus. Empty for any other name.
+std::span<const MenuEntry> popupMenu(std::string_view name);
 
 }  // namespace tessaplot::ui

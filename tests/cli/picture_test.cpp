@@ -91,5 +91,15 @@ INSTANTIATE_TEST_SUITE_P(Samples, Picture,
                                          Reference{"delaunay_quick", "delaunay", {"--quick"}}),
                          testing::PrintToStringParamName());
 
+TEST(PictureFormats, areTheSamePictureAtAnOddSize) {
+    const TemporaryFolder folder;
+    const std::string sample = std::string(TESSAPLOT_SAMPLES) + "/sphere.tsp";
+    for (const char* name : {"a.png", "a.bmp", "a.pdf"})
+        ASSERT_EQ(cli({"render", sample, folder / name, "--size", "101x57"}).status, 0) << name;
+    const QImage png(QString::fromStdString(folder / "a.png"));
+    EXPECT_EQ(QImage(QString::fromStdString(folder / "a.bmp")).convertToFormat(png.format()), png);
+    EXPECT_EQ(bytesOf(folder / "a.pdf").substr(0, 5), "%PDF-");
+}
+
 }  // namespace
 }  // namespace tessaplot

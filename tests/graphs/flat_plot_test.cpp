@@ -228,7 +228,7 @@ TEST(ContourLines, standInThePlaneThatModeAndPassName) {
         graph.ID = pass;
         gl::DisplayList list;
         emitContourLines(list, graph, scene.context(),
-                         surfaceGrid(graph, [&](int i, int j) { return scene.data.Reg3DC(i, j); }), 7.5,
+                         surfaceGrid(graph, scene.context(), [&](int i, int j) { return scene.data.Reg3DC(i, j); }), 7.5,
                          {3, 3, graph.ConColor1, graph.ConColor2, 4}, static_cast<ContourPass>(pass));
         EXPECT_EQ(gl::toText(list), plainContours(scene, graph, scene.data.Reg3DC, 3, 7.5, 11, 4)) << pass;
     }

@@ -2,6 +2,7 @@
 #include <limits>
 #include <map>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -163,7 +164,7 @@ TEST(VolumePlots, needEveryNodeOfTheirSteps) {
 }
 
 TEST(VolumePlots, markNoMoreNodesThanCanBeDrawn) {
-    const SmallScene scene = volumeScene({100, 51, 50}, [](double x, double, double) { return x; });
+    const SmallScene scene = volumeScene({102, 102, 102}, [](double x, double, double) { return x; });
     for (const int type : {41, 42}) {
         Cls9 graph = volumeGraph(type, scene);
         EXPECT_THROW(scene.drawn(graph), base::Failure);
@@ -183,11 +184,57 @@ TEST(VolumePlots, linesUnderTheMaterialWithoutOpacityAreNotBlended) {
             const std::string text = scene.drawn(graph);
             const std::size_t line = text.find(type == 42 ? "gluCylinder" : "glBegin GL_LINES");
             ASSERT_NE(line, std::string::npos);
-            EXPECT_EQ(text.rfind("glEnable GL_BLEND", line) > text.rfind("glDisable GL_BLEND", line) ||
-                          text.rfind("glDisable GL_BLEND", line) == std::string::npos,
-                      blends);
+            // One more, so that "nowhere" is 0 and comes before everything.
+            const std::size_t enabled = text.rfind("glEnable GL_BLEND", line) + 1;
+            const std::size_t disabled = text.rfind("glDisable GL_BLEND", line) + 1;
+            EXPECT_EQ(enabled > disabled, blends);
         }
     }
+}
+
+/// The same volume with its nodes listed from the other end of every axis.
+SmallScene listedDownwards(SmallScene scene) {
+    data::ClsData& data = scene.data;
+    for (data::Array* array : {&data.Reg4DX, &data.Reg4DY, &data.Reg4DZ, &data.Reg4DV}) {
+        const data::Array upwards = *array;
+        for (int i = 0; i < data.StepsX; ++i)
+            for (int j = 0; j < data.StepsY; ++j)
+                for (int k = 0; k < data.StepsZ; ++k)
+                    (*array)(i, j, k) = upwards(data.StepsX - 1 - i, data.StepsY - 1 - j, data.StepsZ - 1 - k);
+    }
+    return scene;
+}
+
+/// The vertices of lines, rounded, in their order in space.
+std::multiset<std::vector<long>> lineEnds(const gl::DisplayList& list) {
+    std::multiset<std::vector<long>> ends;
+    list.forEach([&](const gl::Operation& operation) {
+        if (operation.op != gl::Op::Vertex3d) return;
+        std::vector<long> place;
+        for (const double number : operation.numbers)
+            place.push_back(std::lround(number * 1e4));
+        ends.insert(place);
+    });
+    return ends;
+}
+
+TEST(VolumePlots, slicesOfDataListedDownwardsHaveTheirContoursInTheSamePlaces) {
+    const SmallScene upwards = volumeScene({6, 5, 4}, [](double x, double y, double z) { return x * x + y + z * z; });
+    Cls9 graph = volumeGraph(graph_type::slice4D, upwards);
+    for (SliceSet* slices : {&graph.SlicesX, &graph.SlicesY, &graph.SlicesZ}) {
+        slices->Num = 1;
+        (*slices)[1].Position = 2.3;
+        (*slices)[1].ShowCont = true;
+        (*slices)[1].ContLevels = 7.1;
+    }
+    const auto ends = [&](const SmallScene& scene) {
+        Cls9 copy = graph;
+        gl::DisplayList list;
+        copy.Draw(list, scene.context());
+        return lineEnds(list);
+    };
+    EXPECT_GT(ends(upwards).size(), 100U);
+    EXPECT_EQ(ends(upwards), ends(listedDownwards(upwards)));
 }
 
 TEST(VolumePlots, sizeNoSphereByALargestValueOfZero) {

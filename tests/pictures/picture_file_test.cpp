@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
@@ -15,6 +16,7 @@ namespace tessaplot::pictures {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 constexpr int width = 5;
 constexpr int height = 3;
@@ -36,6 +38,11 @@ class PictureFile : public testing::Test {
                 for (int channel = 0; channel < channels; ++channel)
                     bytes.push_back(static_cast<std::uint8_t>(channel == 0 ? 40 * x : channel == 1 ? 80 * y : 200));
         return bytes;
+    }
+
+    static std::string contentOf(const fs::path& path) {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
     }
 
     std::string faultOf(const fs::path& path, const Pixels& pixels) {
@@ -77,6 +84,25 @@ TEST_F(PictureFile, writesJpegOfTheSameSizeAndNearbyColours) {
     const QImage image(QString::fromStdString((folder / "a.jpg").string()));
     ASSERT_EQ(image.size(), QSize(32, 16));
     EXPECT_NEAR(image.pixelColor(7, 7).green(), 90, 3);
+}
+
+TEST_F(PictureFile, writesAPlainBitmapOfTwentyFourBitsAndAPdfPageOfThePicturesSize) {
+    const auto bytes = bytesOf(3);
+    writePicture(folder / "a.bmp", {bytes, width, height, 3});
+    const std::string bitmap = contentOf(folder / "a.bmp");
+    ASSERT_EQ(bitmap.size(), 54U + 16 * height) << "rows of 15 bytes padded to 16";
+    EXPECT_EQ(bitmap[2], static_cast<char>(bitmap.size()));
+    EXPECT_EQ(bitmap[28], 24);
+    EXPECT_EQ(bitmap.substr(54, 3), "\xC8\xA0\0"s) << "bottom row first; blue, green, red";
+
+    const std::vector<std::uint8_t> large(96 * 48 * 3, 90);
+    writePicture(folder / "a.pdf", {large, 96, 48, 3});
+    const std::string page = contentOf(folder / "a.pdf");
+    EXPECT_THAT(page, testing::StartsWith("%PDF-1."));
+    EXPECT_THAT(page, testing::HasSubstr("/MediaBox [0 0 72"));
+    EXPECT_THAT(page, testing::HasSubstr("/Width 96"));
+    EXPECT_THAT(page, testing::Not(testing::HasSubstr("/DCTDecode"))) << "the picture is not made a JPEG";
+    EXPECT_THAT(faultOf(folder / "no" / "a.pdf", {large, 96, 48, 3}), testing::HasSubstr("cannot be written"));
 }
 
 TEST_F(PictureFile, tellsWhatIsWrongAndLeavesNoFile) {

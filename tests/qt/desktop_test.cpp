@@ -1,6 +1,9 @@
+#include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTextBrowser>
 #include <fstream>
 
 #include "qt/window_test.h"
@@ -106,6 +109,39 @@ TEST_F(DesktopTest, aDocumentIsSavedAndOpenedThroughTheDialogs) {
     state.panel.setText(1, "");
     choose("mnuFileOpen");
     EXPECT_EQ(state.panel.Text(1), "3");
+}
+
+TEST_F(DesktopTest, helpPagesOfTheInstallationAreShownHereAndAnAddressThatNothingOpensIsTold) {
+    std::ofstream(folder / "guide.md") << "# The guide\n\nText.\n";
+    state.desktop.openPage((folder / "guide.md").string());
+    EXPECT_TRUE(find<QTextBrowser>("Help")->isVisible());
+    EXPECT_THAT(find<QTextBrowser>("Help")->toPlainText().toStdString(), testing::HasSubstr("The guide"));
+    qputenv("PATH", "");
+    EXPECT_THROW(state.desktop.openPage("unknown-scheme:page"), base::Failure);
+}
+
+TEST_F(DesktopTest, coloursAndTypefacesComeBackFromTheirDialogs) {
+    onNext<QColorDialog>([](QColorDialog* dialog) {
+        EXPECT_EQ(dialog->currentColor(), QColor(1, 2, 3));
+        dialog->setCurrentColor(QColor(200, 100, 50));
+        dialog->accept();
+    });
+    EXPECT_EQ(state.desktop.pickColor(base::packColor(1, 2, 3)), base::packColor(200, 100, 50));
+    onNext<QFontDialog>([](QFontDialog* dialog) {
+        EXPECT_TRUE(dialog->currentFont().italic());
+        QFont font = dialog->currentFont();
+        font.setUnderline(true);
+        dialog->setCurrentFont(font);
+        dialog->accept();
+    });
+    const auto font = state.desktop.pickFont({.name = "Liberation Sans", .size = 11, .italic = true});
+    ASSERT_TRUE(font);
+    EXPECT_EQ(font->name, "Liberation Sans");
+    EXPECT_EQ(font->size, 11);
+    EXPECT_TRUE(font->italic && font->underline);
+    EXPECT_FALSE(font->bold || font->strikeout);
+    onNext<QColorDialog>([](QColorDialog* dialog) { dialog->reject(); });
+    EXPECT_FALSE(state.desktop.pickColor(0));
 }
 
 }  // namespace

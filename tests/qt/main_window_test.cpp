@@ -1,13 +1,17 @@
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenuBar>
+#include <QPalette>
 #include <QStatusBar>
+#include <algorithm>
 #include <chrono>
 #include <limits>
 
 #include "qt/window_test.h"
 #include "ui/menu_table.h"
+#include "ui/toolbar_table.h"
 
 namespace tessaplot::qt {
 namespace {
@@ -38,6 +42,29 @@ TEST_F(MainWindowTest, everyMenuEntryIsAnActionOfItsNameWithHintAndShortcut) {
     EXPECT_TRUE(find<QAction>("mnuViewISO")->isEnabled());
     choose("mnuFileNew2D");
     EXPECT_FALSE(find<QAction>("mnuViewISO")->isEnabled());
+}
+
+TEST_F(MainWindowTest, everyButtonHasAPictureThatTakesTheTextColourOfThePalette) {
+    const auto lightest = [](const QAction* action) {
+        const QImage picture = action->icon().pixmap(QSize(32, 32), 1.0).toImage();
+        int value = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixelColor(x, y).alpha() > 128)
+                    value = std::max(value, picture.pixelColor(x, y).lightness());
+        return value;
+    };
+    for (const ui::ToolbarButton& place : ui::toolbar()) {
+        if (place.command.empty()) continue;
+        const auto* action = find<QAction>(("Toolbar1_" + std::to_string(place.index)).c_str());
+        EXPECT_GT(lightest(action), 0) << place.command;
+        EXPECT_EQ(action->toolTip().toStdString(), place.hint);
+    }
+    const QPalette before = QApplication::palette();
+    EXPECT_LT(lightest(find<QAction>("mnuViewFit")), 200);
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    EXPECT_GT(lightest(find<QAction>("mnuViewFit")), 200);
+    QApplication::setPalette(before);
 }
 
 TEST_F(MainWindowTest, theListTicksByKeyboardAndMirrorsTheLogic) {

@@ -27,11 +27,6 @@ class PictureTest : public WindowTest {
         return count;
     }
 
-    void tick(Qt::CheckState ticked) {
-        QAbstractItemModel* model = find<QListView>("List1")->model();
-        model->setData(model->index(0, 0), ticked, Qt::CheckStateRole);
-    }
-
     QOpenGLWidget* surface = nullptr;
 };
 
@@ -56,12 +51,15 @@ TEST_F(PictureTest, newOpenTickSaveOnARealDisplay) {
 }
 
 TEST_F(PictureTest, theSceneKnowsTheSurfaceInPhysicalPixels) {
-    const auto physical = [this] { return surface->grabFramebuffer().size(); };
-    EXPECT_EQ(physical(), surface->size() * surface->devicePixelRatioF());
-    EXPECT_EQ(QSize(state.TheView.viewportWidth(), state.TheView.viewportHeight()), physical());
+    const auto fits = [this] {
+        const QSize physical = surface->grabFramebuffer().size();
+        EXPECT_EQ(physical, surface->size() * surface->devicePixelRatioF());
+        const QSize unused = physical - QSize(state.TheView.viewportWidth(), state.TheView.viewportHeight());
+        return unused.height() == 0 && unused.width() >= 0 && unused.width() < 4;
+    };
+    EXPECT_TRUE(fits());
     window.resize(window.width() - 101, window.height() - 57);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return QSize(state.TheView.viewportWidth(), state.TheView.viewportHeight()) == physical(); }));
+    EXPECT_TRUE(QTest::qWaitFor(fits));
 }
 
 TEST_F(PictureTest, thePictureSurvivesAMoveToAnotherWindow) {

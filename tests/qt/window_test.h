@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QAction>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 #include <deque>
 #include <filesystem>
 #include <string>
@@ -36,9 +38,11 @@ class WindowTest : public testing::Test {
             answers.pop_front();
             return answer;
         };
-        state.desktop.chooseFile = [this](const platform::FileQuestion&) -> std::optional<platform::FileChoice> {
-            return platform::FileChoice{file.string(), 1};
+        state.desktop.chooseFile = [this](const platform::FileQuestion& question) {
+            fileQuestions.push_back(question.title);
+            return std::optional(platform::FileChoice{file.string(), fileFilter});
         };
+        state.samplesFolder = TESSAPLOT_SAMPLES;
         window.start({});
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
@@ -52,6 +56,17 @@ class WindowTest : public testing::Test {
     }
 
     void choose(const char* command) { find<QAction>(command)->trigger(); }
+
+    /// The button of the toolbar with that number.
+    QWidget* button(int index) {
+        return find<QToolBar>("Toolbar1")
+            ->widgetForAction(find<QAction>(("Toolbar1_" + std::to_string(index)).c_str()));
+    }
+
+    void tick(Qt::CheckState ticked) {
+        QAbstractItemModel* model = find<QListView>("List1")->model();
+        model->setData(model->index(0, 0), ticked, Qt::CheckStateRole);
+    }
 
     /// A surface of three by three nodes and a grid model of it, listed but not ticked.
     void addGraph() {
@@ -79,8 +94,10 @@ class WindowTest : public testing::Test {
     ui::frmF1 form{state};
     MainWindow window{form};
     std::filesystem::path folder;
-    std::filesystem::path file;
+    std::filesystem::path file;  ///< What is chosen in file dialogs, with the filter.
+    int fileFilter = 1;
     std::vector<std::string> asked;
+    std::vector<std::string> fileQuestions;
     std::deque<platform::Answer> answers;
 };
 

@@ -1,8 +1,7 @@
 #include "ui/main_window.h"
 
-#include <deque>
+#include <cstdint>
 #include <filesystem>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -13,7 +12,9 @@
 #include "core/document.h"
 #include "core/graph_list.h"
 #include "core/refresh.h"
+#include "scripted_window.h"
 #include "ui/menu_table.h"
+#include "ui/toolbar_table.h"
 
 namespace tessaplot::ui {
 namespace {
@@ -21,56 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 using platform::Answer;
 
-/// A window on a desktop whose answers are laid out beforehand.
-class MainWindow : public testing::Test {
- protected:
-    void SetUp() override {
-        folder = fs::path(testing::TempDir()) /
-                 ("ui-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::create_directories(folder);
-        state.desktop.ask = [this](const platform::Message& message) {
-            asked.push_back(message.title + ": " + message.text);
-            if (answers.empty()) return Answer::Cancel;
-            const Answer answer = answers.front();
-            answers.pop_front();
-            return answer;
-        };
-        state.desktop.chooseFile =
-            [this](const platform::FileQuestion& question) -> std::optional<platform::FileChoice> {
-            asked.push_back(question.title + " " + question.filter);
-            if (chosen.empty()) return std::nullopt;
-            return platform::FileChoice{chosen, 1};
-        };
-        state.desktop.showStatus = [this](std::string_view text) { status = text; };
-        window.load({});
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
-    void addGraph() {
-        for (const int box : {1, 2})
-            state.panel.setText(box, "2");
-        window.Command1_Click();
-        const char* cells[4][3] = {{"0", "0", "1"}, {"0", "1", "2"}, {"1", "0", "3"}, {"1", "1", "5"}};
-        for (int row = 1; row <= 4; ++row)
-            for (int column = 1; column <= 3; ++column)
-                state.panel.setCell(column, row, cells[row - 1][column - 1]);
-        state.TheData.GetData(state.panel, state.scaling, state.gridding, state.desktop);
-        auto graph = std::make_shared<graphs::Cls9>();
-        graph->ID = ++state.LastGraphId;
-        graph->GraphType = graphs::graph_type::gridModel;
-        state.AllGraphs.Graphs.push_back(graph);
-        state.List1.add(graph, state.scene.SceneMode);
-        window.List1_Tick(static_cast<int>(state.List1.entries.size()) - 1, true);
-    }
-
-    core::AppState state;
-    frmF1 window{state};
-    fs::path folder;
-    std::vector<std::string> asked;
-    std::deque<Answer> answers;
-    std::string chosen;
-    std::string status;
-};
+class MainWindow : public ScriptedWindow {};
 
 TEST_F(MainWindow, startsWithAnEmptySpatialDocument) {
     EXPECT_EQ(state.scene.SceneMode, 3);
@@ -141,7 +93,7 @@ TEST_F(MainWindow, savesAndOpensAgain) {
     window.run("mnuFileOpen");
     EXPECT_THAT(asked, testing::ElementsAre("Open File (*.tsp)|*.tsp"));
     ASSERT_EQ(state.ShownGraphs.Graphs.size(), 1U);
-    EXPECT_EQ(state.panel.cell(3, 4), "5");
+    EXPECT_EQ(state.panel.cell(4, 4), "4");
     chosen.clear();
     answers = {Answer::Yes};
     window.run("mnuFileOpen");
@@ -163,7 +115,7 @@ TEST_F(MainWindow, failuresEndTheCommandAndKeepTheDocument) {
     state.panel.setText(1, "30000");
     window.Command1_Click();
     EXPECT_THAT(asked.back(), testing::HasSubstr("20000"));
-    EXPECT_EQ(state.panel.gridRows(), 5);
+    EXPECT_EQ(state.panel.gridRows(), 10);
     EXPECT_THROW(window.load("/nowhere/x.tsp"), base::Failure);
 }
 
@@ -195,21 +147,22 @@ TEST_F(MainWindow, recoveryKeepsUntickedGraphsToo) {
     EXPECT_EQ(document->graphs.size(), 1U);
 }
 
-TEST_F(MainWindow, everyMenuEntryRunsAndNamesAreUnique) {
-    std::set<std::string_view> names;
-    std::set<std::string_view> shortcuts;
-    for (const MenuEntry& entry : menuBar()) {
-        if (entry.name.empty()) continue;
-        EXPECT_TRUE(names.insert(entry.name).second) << entry.name;
-        if (!entry.shortcut.empty()) {
-            EXPECT_TRUE(shortcuts.insert(entry.shortcut).second);
-        }
-        window.run(entry.name);
+TEST_F(MainWindow, everyCommandAndButtonRunsOnAnEmptyAndOnAFilledDocument) {
+    state.desktop.readFrame = [](int width, int height) {
+        return std::vector<std::uint8_t>(static_cast<std::size_t>((3 * width + 3) / 4 * 4 * height));
+    };
+    for (const bool filled : {false, true}) {
+        if (filled) addGraph();
+        for (const auto menu : {menuBar(), popupMenu("FunEdit"), popupMenu("GraphEdit"), popupMenu("mnuGE")})
+            for (const MenuEntry& entry : menu)
+                window.run(entry.name);
+        for (const ToolbarButton& button : toolbar())
+            window.Toolbar1_ButtonClick(button.index);
+        EXPECT_FALSE(window.wantsIdle());
+        EXPECT_GT(displays, 0);
     }
-    EXPECT_EQ(state.scene.SceneMode, 11);
-    state.panel.selectKind(data::DataKind::RegularSpherical);
-    EXPECT_FALSE(window.isEnabled("mnuFileNew2D"));
-    EXPECT_TRUE(window.isEnabled("mnuFileNew3D"));
+    window.run("mnuNothing");
+    window.run("");
 }
 
 TEST_F(MainWindow, fitFollowsThePicturesShape) {

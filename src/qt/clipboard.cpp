@@ -1,0 +1,22 @@
+#include "qt/clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "qt/picture_image.h"
+
+namespace tessaplot::qt {
+
+std::string clipboardText() {
+    return QGuiApplication::clipboard()->text().toStdString();
+}
+
+void setClipboardText(std::string_view text) {
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void copyPictureFile(const std::filesystem::path& path) {
+    QGuiApplication::clipboard()->setImage(readImage(path));
+}
+
+}  // namespace tessaplot::qt

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace tessaplot::ui {
+
+/// One place of the toolbar: a button with its command and the hint for the status line, or a separator without.
+struct ToolbarButton {
+    int index = 0;  ///< From 1 on.
+    std::string_view command = {};
+    std::string_view hint = {};
+};
+
+inline constexpr int toolbarSize = 50;
+
+/// All places of the toolbar from left to right.
+std::span<const ToolbarButton> toolbar();
+
+/// What the status line shows while the pointer is over that place; "Ready" for a separator and any other number.
+std::string_view toolbarHint(int index);
+
+}  // namespace tessaplot::ui
