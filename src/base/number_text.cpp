@@ -105,6 +105,9 @@ std::int32_t roundToInteger(double value) {
 }
 
 std::string generalText(double value) {
+    // Larger numbers would be rounded to one that is out of range.
+    constexpr double largest = 1.79769313486231E+308;
+    if (std::isfinite(value)) value = std::clamp(value, -largest, largest);
     char buffer[64];
     const auto written = std::to_chars(std::begin(buffer), std::end(buffer), value, std::chars_format::general, 15);
     std::string text(buffer, written.ptr);

@@ -64,12 +64,23 @@ std::string withoutBlanks(std::string text) {
     return text;
 }
 
+bool countsRows(const data::DataPanel& panel, int box) {
+    return data::isIrregular(panel.kind()) ? box == 3 : box <= 2;
+}
+
+/// The rows that follow go by the counts, so that these must not read as others once characters are dropped from them.
+std::string boxField(const data::DataPanel& panel, int box) {
+    std::string bare = withoutBlanks(panel.Text(box));
+    if (panel.kind() == DataKind::RegularVolume) return bare;
+    std::string field = NumberToFileText(bare);
+    return countsRows(panel, box) && field != bare ? std::to_string(panel.count(box)) : field;
+}
+
 void writePanelFields(TokenWriter& out, const data::DataPanel& panel) {
     const DataFields fields = dataFieldsOf(panel.kind());
     out.token(fields.code);
     for (const int box : fields.boxes)
-        out.token(panel.kind() == DataKind::RegularVolume ? withoutBlanks(panel.Text(box))
-                                                          : NumberToFileText(panel.Text(box)));
+        out.token(boxField(panel, box));
 }
 
 void writeData(TokenWriter& out, const data::DataPanel& panel) {

@@ -82,6 +82,7 @@ void pasteCells(DataPanel& panel, int row, int column, std::string_view text) {
         requireFits(line, columnsLeft);
         widest = std::max(widest, cellCount(line));
     }
+    if (!lines.empty()) static_cast<void>(panel.cell(column, row));
     panel.setGridSize(std::max(panel.gridRows(), row + static_cast<int>(lines.size())),
                       std::max(panel.gridColumns(), column + static_cast<int>(widest)));
     for (const std::string_view line : lines) {

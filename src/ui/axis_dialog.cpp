@@ -1,6 +1,7 @@
 #include "ui/axis_dialog.h"
 
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "base/failure.h"
@@ -200,11 +201,10 @@ void frmF3::changed(Control&) {
 void frmF3::pressed(Control& control) {
     const platform::Desktop& desktop = state_.desktop;
     if (control.kind == ControlKind::ColorBox) {
-        if (!desktop.chooseColor) return;
-        control.color = desktop.chooseColor(control.color).value_or(control.color);
-    } else if (desktop.chooseFont) {
+        control.color = desktop.pickColor(control.color).value_or(control.color);
+    } else {
         platform::FontChoice& font = fonts_[control.name == fontButtons[0] ? 0 : 1];
-        font = desktop.chooseFont(font).value_or(font);
+        font = desktop.pickFont(font).value_or(font);
     }
 }
 
@@ -216,10 +216,14 @@ int frmF3::chosenScaleMode() const {
 
 bool frmF3::readScaling(data::Scaling& scaling) {
     scaling.ScaleMode = chosenScaleMode();
-    if (scaling.ScaleMode != customScale) return true;
     for (const auto& box : ratios) {
         Control& text = control(box.name);
         if (!text.visible) continue;
+        if (scaling.ScaleMode != customScale) {
+            // Kept for later, but of no effect now: no fault is told.
+            scaling.*box.member = numberIn(text.text).value_or(scaling.*box.member);
+            continue;
+        }
         const std::optional<double> value = readNumber(text, state_.desktop);
         if (!value) return false;
         if (*value <= 0 && counts(box.member, state_.panel.kind())) {
@@ -266,7 +270,7 @@ void frmF3::copyTitles(Cls3& axis) const {
 std::optional<frmF3::Settings> frmF3::readSettings() {
     Settings wanted{state_.TheAxis, state_.scaling, control("Check11").on};
     wanted.axis.Show = control("Check1").on;
-    if (control("Option1").on != (wanted.axis.AxisStyle == 1)) wanted.axis.AxisStyle = control("Option1").on ? 1 : 2;
+    wanted.axis.AxisStyle = control("Option1").on ? 1 : 2;
     if (!readScaling(wanted.scaling)) return std::nullopt;
     if (framed()) {
         copyPanels(wanted.axis);
@@ -275,6 +279,14 @@ std::optional<frmF3::Settings> frmF3::readSettings() {
         copyTitles(wanted.axis);
     }
     return wanted;
+}
+
+/// True if data come out the same under both.
+bool frmF3::scaleAlike(const data::Scaling& one, const data::Scaling& other) {
+    const auto settings = [](const data::Scaling& s) {
+        return std::tie(s.ScaleMode, s.ScaleRatioX, s.ScaleRatioY, s.ScaleRatioZ, s.ZoomZ);
+    };
+    return settings(one) == settings(other);
 }
 
 data::ClsData frmF3::filledAnew(data::Scaling& scaling) const {
@@ -288,7 +300,7 @@ data::ClsData frmF3::filledAnew(data::Scaling& scaling) const {
 /// Puts the settings in force, or throws a Failure and leaves all as it was.
 void frmF3::apply(Settings wanted) {
     // Data are scaled while they are filled in. As long as no graph has asked for any, there is nothing to scale.
-    const bool fills = state_.TheData.StepsX > 0;
+    const bool fills = state_.TheData.StepsX > 0 && !scaleAlike(wanted.scaling, state_.scaling);
     data::ClsData filled = fills ? filledAnew(wanted.scaling) : state_.TheData;
     const auto exchange = [&] {
         std::swap(state_.TheAxis, wanted.axis);

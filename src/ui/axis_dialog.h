@@ -45,6 +45,7 @@ class frmF3 : public Form {
     bool copyIntervals(scene::Cls3& axis);
     void copyTitles(scene::Cls3& axis) const;
     void apply(Settings wanted);
+    static bool scaleAlike(const data::Scaling& one, const data::Scaling& other);
     data::ClsData filledAnew(data::Scaling& scaling) const;
 
     core::AppState& state_;

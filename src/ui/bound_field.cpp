@@ -4,7 +4,6 @@
 #include <optional>
 #include <type_traits>
 
-#include "base/number_text.h"
 #include "ui/material_items.h"
 #include "ui/number_box.h"
 
@@ -36,7 +35,7 @@ std::vector<Item> itemsOf(Entries entries) {
     return items;
 }
 
-double numberIn(const Cls9& graph, const Property& property) {
+double propertyNumber(const Cls9& graph, const Property& property) {
     return std::visit(
         [&](auto member) -> double {
             if constexpr (std::is_same_v<decltype(member), std::string Cls9::*>)
@@ -81,9 +80,9 @@ Control controlFor(const Field& field, const Cls9& graph) {
     control.caption = field.caption;
     control.hint = field.hint;
     control.items = itemsOf(field.entries);
-    const double number = numberIn(graph, field.property);
+    const double number = propertyNumber(graph, field.property);
     const auto* text = std::get_if<std::string Cls9::*>(&field.property);
-    control.text = text ? graph.*(*text) : base::generalText(number);
+    control.text = text ? graph.*(*text) : proposedText(number);
     control.on = field.kind == ControlKind::OptionButton ? number == field.value : number != 0;
     control.color = field.kind == ControlKind::ColorBox ? static_cast<base::PackedColor>(number) : 0;
     control.value = number;

@@ -232,10 +232,9 @@ void ColorMapEditor::removeStop() {
 }
 
 void ColorMapEditor::recolorStop() {
-    if (!desktop_.chooseColor) return;
     std::vector<Stop> changed = stops();
     Stop& stop = changed.at(static_cast<std::size_t>(selected()));
-    if (const auto chosen = desktop_.chooseColor(stop.color)) {
+    if (const auto chosen = desktop_.pickColor(stop.color)) {
         stop.color = *chosen;
         replaceStops(changed, selected());
     }

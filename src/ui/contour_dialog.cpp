@@ -3,10 +3,10 @@
 #include <array>
 #include <optional>
 
-#include "base/number_text.h"
 #include "ui/color_map_editor.h"
 #include "ui/control_makers.h"
 #include "ui/fields.h"
+#include "ui/number_box.h"
 
 namespace tessaplot::ui {
 
@@ -50,7 +50,7 @@ ContourForm::ContourForm(core::AppState& state, const GraphDialogKind& kind, con
 }
 
 void ContourForm::proposeInterval(double step) {
-    control("Text1").text = base::generalText(step);
+    control("Text1").text = proposedText(step);
 }
 
 /// The legend reads the fill and the colours of a surface; a single color has none.
@@ -65,6 +65,7 @@ frmF23::frmF23(core::AppState& state)
     : ContourForm(state, {graphs::graph_type::contour, "frmF23", "Contour Plot Properties", DataNeed::Surface},
                   {&Cls9::ContourLevels, &Cls9::ConFillType, &Cls9::ConColor1, &Cls9::ConColor2, &Cls9::ConWidth}) {
     proposeInterval(heightStep(ranges_));
+    control("Text1").hint = "The step between the contours in scene units: the frame is ten of them wide";
 }
 
 }  // namespace tessaplot::ui

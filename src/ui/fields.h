@@ -29,8 +29,8 @@ constexpr Field sizes(std::string_view name, std::string_view caption, Property 
     return {ControlKind::ComboBox, name, caption, property, 1, Entries::Sizes};
 }
 
-constexpr Field materials() {
-    return {ControlKind::ListBox, "List1", "Select a material type", &graphs::Cls9::Material, 1, Entries::Materials};
+constexpr Field materials(std::string_view name = "List1") {
+    return {ControlKind::ListBox, name, "Select a material type", &graphs::Cls9::Material, 1, Entries::Materials};
 }
 
 constexpr Field scatteredPoints(std::string_view name) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <vector>
 
 #include "ui/fields.h"
+#include "ui/panel_ranges.h"
 
 namespace tessaplot::ui {
 

@@ -187,8 +187,8 @@ void GraphForm::pressed(Control& control) {
     for (const auto& part : parts_)
         part->pressed(control);
     const bool bound = std::ranges::find(fields_, control.name, &Field::name) != fields_.end();
-    if (!bound || control.kind != ControlKind::ColorBox || !desktop().chooseColor) return;
-    if (const auto chosen = desktop().chooseColor(control.color)) {
+    if (!bound || control.kind != ControlKind::ColorBox) return;
+    if (const auto chosen = desktop().pickColor(control.color)) {
         control.color = *chosen;
         changed(control);
     }

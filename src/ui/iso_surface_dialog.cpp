@@ -3,14 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <string>
 
-#include "base/failure.h"
 #include "base/number_text.h"
 #include "graphs/emitters.h"
 #include "ui/color_map_editor.h"
 #include "ui/control_makers.h"
 #include "ui/fields.h"
+#include "ui/number_box.h"
 
 namespace tessaplot::ui {
 
@@ -21,14 +22,6 @@ using graphs::Cls9;
 constexpr std::array fields{field::number("Text1", "Value", &Cls9::IsoSurValue, NumberRule::Any,
                                           "The surface lies where the data have this value"),
                             field::materials()};
-
-double valueIn(const Control& box) {
-    try {
-        return base::TextValue(box.text);
-    } catch (const base::Failure&) {
-        return 0;
-    }
-}
 
 }  // namespace
 
@@ -76,8 +69,10 @@ void frmF33::showColor() {
 void frmF33::changed(Control& changed) {
     GraphForm::changed(changed);
     Control& slider = control("Slider1");
-    if (changed.name == "Slider1") control("Text1").text = base::generalText(changed.value);
-    if (changed.name == "Text1") slider.value = std::clamp(valueIn(changed), slider.minimum, slider.maximum);
+    if (changed.name == "Slider1") control("Text1").text = proposedText(changed.value);
+    if (changed.name == "Text1")
+        if (const std::optional<double> value = numberIn(changed.text))
+            slider.value = std::clamp(*value, slider.minimum, slider.maximum);
     showColor();
 }
 

@@ -39,6 +39,10 @@ std::string boxText(float value) {
     return withoutPlus(base::shortestText(value));
 }
 
+std::string proposedText(double value) {
+    return withoutPlus(base::generalText(value));
+}
+
 std::optional<double> numberIn(std::string_view text) {
     std::string cleaned;
     if (isBlank(text) || !base::CleanNumberText(text, cleaned)) return std::nullopt;
@@ -58,13 +62,13 @@ std::optional<double> readNumber(Control& box, const platform::Desktop& desktop)
         tell(desktop, "Note", "Input all parameters please.");
         return std::nullopt;
     }
-    const std::optional<double> value = numberIn(box.text);
+    std::string cleaned;
+    const bool holdsNumber = base::CleanNumberText(box.text, cleaned);
+    const std::optional<double> value = holdsNumber ? valueOf(cleaned) : std::nullopt;
     if (!value) {
         tellIllegalData(desktop);
         return std::nullopt;
     }
-    std::string cleaned;
-    base::CleanNumberText(box.text, cleaned);
     box.text = cleaned;
     return value;
 }

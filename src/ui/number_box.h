@@ -12,6 +12,8 @@ namespace tessaplot::ui {
 /// A number as it stands in a text box: it reads back as exactly this one.
 std::string boxText(double value);
 std::string boxText(float value);
+/// A number as a text box proposes it, rounded for reading.
+std::string proposedText(double value);
 
 /// The number that starts the text, read as by `readNumber` but without a message.
 std::optional<double> numberIn(std::string_view text);

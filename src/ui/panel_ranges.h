@@ -24,7 +24,7 @@ struct PanelRanges {
 /// for it: their grid's limits and their own values stand for it.
 std::optional<PanelRanges> rangesOfPanel(const core::AppState& state);
 
-/// A round step that cuts a range into five to ten pieces.
+/// A round step that cuts a range into four to ten pieces.
 double roundStep(const Range& range);
 
 }  // namespace tessaplot::ui

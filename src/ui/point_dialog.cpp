@@ -26,14 +26,12 @@ frmF16::frmF16(core::AppState& state)
     : GraphForm(state, {graphs::graph_type::point, "frmF16", "Point Properties", DataNeed::Scales}) {
     draft_.PointColor = base::packColor(255, 0, 0);
     draft_.PointSize = 3;
-    const bool flat = scene::isFlat(state.scene.SceneMode);
-    const Axes axes = flat ? flatAxes : spatialAxes;
+    const Axes axes = scene::isFlat(state.scene.SceneMode) ? flatAxes : spatialAxes;
     const std::array fields{
         field::number("Text2", "X", axes.x, NumberRule::Any), field::number("Text3", "Y", axes.y, NumberRule::Any),
         field::number("Text4", "Z", axes.z, NumberRule::Any), field::colorBox("Picture1", "Color", &Cls9::PointColor),
         field::sizes("Combo2", "Size", &Cls9::PointSize)};
     addFields(fields);
-    control("Text4").visible = !flat;
     layOut({"Point", {{"Coordinate", {{"Text2"}, {"Text3"}, {"Text4"}}}, {"Marker", {{"Picture1"}, {"Combo2"}}}}});
 }
 

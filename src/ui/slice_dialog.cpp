@@ -1,5 +1,7 @@
 #include "ui/slice_dialog.h"
 
+#include <algorithm>
+
 #include "ui/color_map_editor.h"
 #include "ui/fields.h"
 
@@ -17,7 +19,7 @@ constexpr std::array fields{
     field::colorBox("Picture8", "2nd color", &Cls9::SecondColor, "The color of the lowest value"),
     field::sizes("Combo2", "Width of the contours", &Cls9::LineWidth),
     field::scatteredPoints("Check10"),
-    Field{ControlKind::ListBox, "List4", "Select a material type", &Cls9::Material, 1, Entries::Materials}};
+    field::materials("List4")};
 
 }  // namespace
 
@@ -43,11 +45,7 @@ frmF31::frmF31(core::AppState& state)
 /// Without a slice there is nothing to see; one through the middle across each axis shows the data then.
 bool frmF31::complete(Cls9& graph) {
     if (graph.SlicesX.Num + graph.SlicesY.Num + graph.SlicesZ.Num > 0) return true;
-    for (SliceEditor* editor : editors_) {
-        if (!editor->addMiddle()) return false;
-        editor->store(graph);
-    }
-    return true;
+    return std::ranges::all_of(editors_, [&](const SliceEditor* editor) { return editor->storeMiddle(graph); });
 }
 
 }  // namespace tessaplot::ui

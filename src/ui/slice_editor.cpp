@@ -35,7 +35,7 @@ std::string_view nameOf(int axis) {
 std::string startOr(double other, const std::optional<Range>& allowed) {
     const double start = base::TextValue(startText);
     if (!allowed || (start >= allowed->lower && start <= allowed->upper)) return std::string(startText);
-    return base::generalText(other);
+    return proposedText(other);
 }
 
 double middle(const Range& range) {
@@ -147,7 +147,7 @@ std::vector<Control> SliceEditor::placeControls() const {
 
 void SliceEditor::changed(const Control& control) {
     if (control.name == names_.list) showSelected();
-    if (control.name == names_.slider) form_.control(names_.position).text = base::generalText(control.value);
+    if (control.name == names_.slider) form_.control(names_.position).text = proposedText(control.value);
     if (control.name == names_.contours)
         for (const std::string& name : {names_.interval, names_.contourColor})
             form_.control(name).enabled = control.on;
@@ -159,9 +159,8 @@ void SliceEditor::pressed(const Control& control) {
     if (control.name == names_.addEnds) addEnds();
     if (control.name == names_.change) change();
     if (control.name == names_.remove) remove();
-    const bool isColor = control.name == names_.contourColor || control.name == names_.vectorColor;
-    if (!isColor || !desktop_.chooseColor) return;
-    if (const auto chosen = desktop_.chooseColor(control.color)) form_.control(control.name).color = *chosen;
+    if (control.name == names_.contourColor || control.name == names_.vectorColor)
+        form_.control(control.name).color = desktop_.pickColor(control.color).value_or(control.color);
 }
 
 void SliceEditor::store(Cls9& graph) const {
@@ -250,14 +249,15 @@ void SliceEditor::addEnds() {
     showList(static_cast<int>(slices_.size()) - 1);
 }
 
-bool SliceEditor::addMiddle() {
+bool SliceEditor::storeMiddle(Cls9& graph) const {
     const std::optional<Range> along = span();
     if (!along) return true;
     Slice slice;
     if (!readLook(slice) || !readLimits(slice)) return false;
     slice.Position = middle(*along);
-    slices_.push_back(slice);
-    showList(0);
+    SliceSet& set = graph.*slicesOf[static_cast<std::size_t>(axis_)];
+    set.Num = 1;
+    set[1] = slice;
     return true;
 }
 
@@ -290,18 +290,19 @@ void SliceEditor::showList(int selected) {
     for (const Slice& slice : slices_)
         list.items.push_back({describe(slice)});
     list.selected = selected;
+    showSelected();
 }
 
 void SliceEditor::showSelected() {
     const int selected = form_.control(names_.list).selected;
     if (selected < 0) return;
     const Slice& slice = slices_.at(static_cast<std::size_t>(selected));
-    form_.control(names_.position).text = base::generalText(slice.Position);
+    form_.control(names_.position).text = proposedText(slice.Position);
     form_.control(names_.slider).value = slice.Position;
     form_.control(names_.color).on = slice.ShowColor;
     form_.control(names_.contours).on = slice.ShowCont;
     form_.control(names_.vectors).on = slice.ShowVect;
-    if (slice.ShowCont) form_.control(names_.interval).text = base::generalText(slice.ContLevels);
+    if (slice.ShowCont) form_.control(names_.interval).text = proposedText(slice.ContLevels);
     form_.control(names_.contourColor).color = slice.ContColor;
     form_.control(names_.vectorColor).color = slice.VectColor;
     for (std::size_t i = 0; i < limitsOf.size() && ranges_; ++i)

@@ -21,9 +21,9 @@ class SliceEditor : public FormPart {
     void pressed(const Control& control) override;
     void store(graphs::Cls9& graph) const override;
 
-    /// Adds a slice through the middle of the data with what the controls say; none if the range of the data is not
-    /// known. False, after a message, if the controls hold what cannot be.
-    bool addMiddle();
+    /// Gives the graph a slice through the middle of the data with what the controls say; none if the range of the data
+    /// is not known. False, after a message, if the controls hold what cannot be.
+    bool storeMiddle(graphs::Cls9& graph) const;
 
  private:
     using Slice = graphs::SliceSet::Slice;

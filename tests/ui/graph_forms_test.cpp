@@ -673,6 +673,7 @@ TEST_F(GraphForms, pointsLandInTheAxesOfTheScene) {
     const Cls9 flat = typed();
     EXPECT_EQ(flat.PointY, 1);
     EXPECT_EQ(flat.PointZ, 2);
+    EXPECT_EQ(flat.PointX, 3);
     EXPECT_EQ(flat.NameS, "Point  x=1, y=2");
 }
 
