@@ -48,7 +48,7 @@ void setTick(AppState& state, int entry, bool ticked) {
     chosen.ticked = ticked;
     try {
         RefreshShownGraphs(state);
-    } catch (const base::Failure&) {
+    } catch (...) {
         chosen.ticked = !ticked;
         state.ShownGraphs.Graphs = shownBefore;
         throw;

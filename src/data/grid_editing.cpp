@@ -24,9 +24,10 @@ std::string_view takeUntil(std::string_view& text, char separator) {
     return taken;
 }
 
-std::string_view withoutReturn(std::string_view line) {
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return line;
+std::string_view withoutReturns(std::string_view cell) {
+    while (cell.ends_with('\r'))
+        cell.remove_suffix(1);
+    return cell;
 }
 
 std::size_t cellCount(std::string_view line) {
@@ -36,7 +37,7 @@ std::size_t cellCount(std::string_view line) {
 std::vector<std::string_view> cellsOf(std::string_view line) {
     std::vector<std::string_view> cells(cellCount(line));
     for (std::string_view& cell : cells)
-        cell = takeUntil(line, '\t');
+        cell = withoutReturns(takeUntil(line, '\t'));
     return cells;
 }
 
@@ -46,7 +47,7 @@ std::vector<std::string_view> linesOf(std::string_view text, std::size_t atMost)
         if (lines.size() == atMost)
             refuse("The data grid holds at most " + std::to_string(DataPanel::maximumRows) +
                    " rows; the table on the clipboard does not fit in from here.");
-        lines.emplace_back(withoutReturn(takeUntil(text, '\n')));
+        lines.push_back(takeUntil(text, '\n'));
     }
     return lines;
 }

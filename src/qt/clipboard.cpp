@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 
 #include "qt/picture_image.h"
+#include "qt/text.h"
 
 namespace tessaplot::qt {
 
@@ -12,7 +13,7 @@ std::string clipboardText() {
 }
 
 void setClipboardText(std::string_view text) {
-    QGuiApplication::clipboard()->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    QGuiApplication::clipboard()->setText(qString(text));
 }
 
 void copyPictureFile(const std::filesystem::path& path) {

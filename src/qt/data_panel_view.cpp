@@ -11,6 +11,7 @@
 #include "data/data_kind.h"
 #include "qt/grid_model.h"
 #include "qt/grid_view.h"
+#include "qt/text.h"
 
 namespace tessaplot::qt {
 
@@ -30,13 +31,9 @@ constexpr std::array<Place, 10> places{
     {{1, 0, 0}, {2, 0, 1}, {4, 0, 2}, {5, 1, 0}, {6, 1, 1}, {7, 1, 2}, {8, 2, 0}, {9, 2, 1}, {10, 2, 2}, {3, 3, 0}}};
 constexpr int boxColumns = 3;
 constexpr int applyRow = 3;
-/// Wide enough for a sign and eight digits.
+/// Wide enough for a count of rows; longer numbers scroll.
 constexpr int narrowestBoxInDigits = 6;
 constexpr int smallestGridRows = 3;
-
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString hintFor(const QString& label) {
     if (label == "Points") return QObject::tr("How many scattered points the grid lists");

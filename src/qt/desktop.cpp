@@ -18,6 +18,7 @@
 #include "qt/help_window.h"
 #include "qt/main_window.h"
 #include "qt/printing.h"
+#include "qt/text.h"
 
 namespace tessaplot::qt {
 
@@ -145,7 +146,7 @@ std::optional<platform::FontChoice> chooseFont(QWidget* parent, const platform::
 
 /// Few desktops have a program for Markdown, and some have no browser: pages of the help are shown here then.
 void openPage(QWidget* parent, std::string_view target) {
-    const QString address = QString::fromUtf8(target.data(), static_cast<qsizetype>(target.size()));
+    const QString address = qString(target);
     const bool isFile = QFileInfo(address).isFile();
     if (isFile && address.endsWith(".md")) return HelpWindow::open(parent, address);
     if (QDesktopServices::openUrl(QUrl::fromUserInput(address, {}, QUrl::AssumeLocalFile))) return;

@@ -22,7 +22,7 @@ const core::GraphList::Entry* GraphListModel::entryAt(const QModelIndex& index) 
 QVariant GraphListModel::data(const QModelIndex& index, int role) const {
     const core::GraphList::Entry* entry = entryAt(index);
     if (entry == nullptr) return {};
-    if (role == Qt::DisplayRole) return QString::fromStdString(entry->label).trimmed();
+    if (role == Qt::DisplayRole) return QString::fromStdString(entry->label);
     if (role == Qt::CheckStateRole) return entry->ticked ? Qt::Checked : Qt::Unchecked;
     return {};
 }
@@ -58,7 +58,11 @@ GraphListView::GraphListView(const core::GraphList& list, GraphListModel::Tick t
 void GraphListView::sync() {
     const QScopedValueRollback guard(syncing_, true);
     model_->sync();
-    if (currentIndex().row() != list_.selected) setCurrentIndex(model_->index(list_.selected));
+    if (selectedRow() == list_.selected) return;
+    if (list_.selected < 0)
+        clearSelection();
+    else
+        setCurrentIndex(model_->index(list_.selected));
 }
 
 void GraphListView::contextMenuEvent(QContextMenuEvent* event) {
@@ -66,9 +70,14 @@ void GraphListView::contextMenuEvent(QContextMenuEvent* event) {
     emit menuWanted(byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(currentIndex()).center()));
 }
 
-void GraphListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QListView::currentChanged(current, previous);
-    if (!syncing_) emit entrySelected(current.row());
+void GraphListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QListView::selectionChanged(selected, deselected);
+    if (!syncing_) emit entrySelected(selectedRow());
+}
+
+int GraphListView::selectedRow() const {
+    const QModelIndexList rows = selectionModel()->selectedIndexes();
+    return rows.isEmpty() ? -1 : rows.constFirst().row();
 }
 
 }  // namespace tessaplot::qt

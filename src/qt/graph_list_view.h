@@ -47,9 +47,12 @@ class GraphListView : public QListView {
 
  protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
  private:
+    /// -1 for none.
+    int selectedRow() const;
+
     const core::GraphList& list_;
     GraphListModel* model_;
     bool syncing_ = false;

@@ -3,6 +3,8 @@
 #include <string>
 #include <utility>
 
+#include "qt/text.h"
+
 namespace tessaplot::qt {
 
 namespace {
@@ -50,7 +52,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     const auto headers = data::headersOf(panel_.kind());
     if (section < 0 || section >= static_cast<int>(headers.size())) return {};
     const std::string_view header = headers[static_cast<std::size_t>(section)];
-    return QString::fromUtf8(header.data(), static_cast<qsizetype>(header.size()));
+    return qString(header);
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {

@@ -142,7 +142,9 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 QAction* GridView::commandOf(const QKeyEvent& event) const {
-    const QKeySequence keys(event.keyCombination());
+    // The keys of the number pad count as those beside it.
+    const QKeySequence keys(
+        QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event.key())));
     const auto found = std::ranges::find_if(commands_, [&](const QAction* command) {
         return !command->shortcut().isEmpty() && command->shortcut() == keys;
     });

@@ -5,7 +5,6 @@
 #include <QMetaObject>
 #include <QStandardPaths>
 #include <exception>
-#include <system_error>
 #include <utility>
 
 namespace tessaplot::qt {
@@ -25,13 +24,7 @@ void LastResort::take(const char* message) noexcept {
 }
 
 std::filesystem::path LastResort::keepWork() const {
-    std::error_code ignored;  // A folder that cannot be made shows in the failure to write there.
-    std::filesystem::create_directories(recoveryFolder_, ignored);
-    try {
-        return form_.saveRecovery(recoveryFolder_);
-    } catch (const std::exception&) {
-        return {};
-    }
+    return form_.saveRecovery(recoveryFolder_);
 }
 
 void LastResort::tellAndEnd(const std::string& message, const std::filesystem::path& recovery) {

@@ -22,6 +22,7 @@
 #include "qt/picture_pane.h"
 #include "qt/picture_widget.h"
 #include "qt/progress_pane.h"
+#include "qt/text.h"
 #include "qt/tool_bar.h"
 #include "ui/menu_table.h"
 
@@ -173,10 +174,7 @@ void MainWindow::followPicture() {
         if (acting_ || buttons == 0) return;
         form_.guarded([&] { form_.mouseMove(buttons, at.x(), at.y(), size.width(), size.height()); });
     });
-    connect(surface, &PictureWidget::released, this, [this, surface](int button, QPointF at) {
-        const QSize size = surface->pictureSize();
-        act([=, this] { form_.mouseUp(button, at.x(), at.y(), size.width(), size.height()); });
-    });
+    connect(surface, &PictureWidget::released, this, [this] { act([this] { form_.mouseUp(); }); });
     // The next turn begins when the last one is on the screen and nothing else is waiting.
     idle_.setSingleShot(true);
     connect(&idle_, &QTimer::timeout, this, &MainWindow::turnIdly);
@@ -235,7 +233,7 @@ void MainWindow::sync() {
 
 void MainWindow::showStatus(std::string_view text) {
     hint_.clear();
-    status_->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    status_->setText(qString(text));
     status_->setToolTip(status_->text());
 }
 
@@ -255,7 +253,7 @@ std::vector<std::uint8_t> MainWindow::readFrame(int width, int height) const {
 }
 
 void MainWindow::popUpMenu(std::string_view name) {
-    auto* menu = findChild<QMenu*>(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    auto* menu = findChild<QMenu*>(qString(name));
     if (menu == nullptr) return;
     QMetaObject::invokeMethod(
         menu, [menu, at = popUpAt_] { menu->popup(at); }, Qt::QueuedConnection);

@@ -7,15 +7,12 @@
 #include <algorithm>
 
 #include "qt/command_icon.h"
+#include "qt/text.h"
 #include "ui/mouse.h"
 
 namespace tessaplot::qt {
 
 namespace {
-
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// Makes the menus while it walks the table from top to bottom.
 class MenuMaker {

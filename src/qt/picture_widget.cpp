@@ -122,8 +122,8 @@ void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
     emit moved(event->buttons().toInt(), event->position() * devicePixelRatioF());
 }
 
-void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
-    emit released(event->button(), event->position() * devicePixelRatioF());
+void PictureWidget::mouseReleaseEvent(QMouseEvent*) {
+    emit released();
 }
 
 /// The mouse has its own way to the menu.

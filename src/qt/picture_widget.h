@@ -41,7 +41,7 @@ class PictureWidget : public QOpenGLWidget {
     /// The mouse, in the picture's pixels. Buttons are 1 for left, 2 for right, 4 for middle.
     void pressed(int button, QPointF at);
     void moved(int buttons, QPointF at);
-    void released(int button, QPointF at);
+    void released();
 
  protected:
     void initializeGL() override;

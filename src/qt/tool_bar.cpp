@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "qt/command_icon.h"
+#include "qt/text.h"
 #include "ui/toolbar_table.h"
 
 namespace tessaplot::qt {
@@ -12,10 +13,6 @@ namespace {
 
 constexpr QSize smallPictures(16, 16);
 constexpr QSize largePictures(24, 24);
-
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace
 

@@ -70,25 +70,26 @@ void frmF1::unload() {
     state_.QuickDraw = false;
     mouse_.StopSpin = true;
     if (state_.AllGraphs.empty()) return;
-    // The status line goes with the window, so a save that fails here is told in a box and offered again.
+    // The status line goes with the window, so a save that fails here is told in a box. It is offered again, and so is
+    // one for which no file was chosen after all.
     while (state_.desktop.askUser({"Note", "Do you want to save the graphs?", Icon::Warning, Buttons::YesNo}) ==
            Answer::Yes) {
         mnuFileSave_Click();
-        if (saveFailure_.empty()) return;
-        state_.desktop.askUser({"Tessaplot", saveFailure_, Icon::Error});
+        if (SaveDone) return;
+        if (!saveFailure_.empty()) state_.desktop.askUser({"Tessaplot", saveFailure_, Icon::Error});
     }
 }
 
 std::filesystem::path frmF1::saveRecovery(const std::filesystem::path& folder) const {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    std::filesystem::path path = folder / ("recovery-" + timeStamp() + ".tsp");
     try {
+        std::error_code ignored;  // A folder that cannot be made shows in the failure to write there.
+        std::filesystem::create_directories(folder, ignored);
+        std::filesystem::path path = folder / ("recovery-" + timeStamp() + ".tsp");
         core::writeDocumentFile(path, core::documentText(core::partsOf(state_, state_.AllGraphs)));
+        return path;
     } catch (const std::exception&) {
         return {};
     }
-    return path;
 }
 
 void frmF1::mnuFileNew2D_Click() {
@@ -198,7 +199,7 @@ void frmF1::save(const std::filesystem::path& path, const std::function<void()>&
     try {
         write();
         state_.desktop.status("Saved \"" + path.string() + "\".");
-    } catch (const base::Failure& failure) {
+    } catch (const std::exception& failure) {
         SaveDone = false;
         saveFailure_ = failure.what();
         state_.desktop.status(saveFailure_);

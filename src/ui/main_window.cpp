@@ -88,7 +88,7 @@ void frmF1::mouseMove(int buttons, double x, double y, double W, double H) {
     guarded([&] { mouse_.move(buttons, {x, y, W, H}); });
 }
 
-void frmF1::mouseUp(int /*button*/, double /*x*/, double /*y*/, double /*W*/, double /*H*/) {
+void frmF1::mouseUp() {
     guarded([this] { mouse_.up(); });
 }
 

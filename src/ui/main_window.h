@@ -65,7 +65,7 @@ class frmF1 {
     /// button is 1 for left, 2 for right, 4 for middle; `buttons` is the sum of those that are held.
     void mouseDown(int button, double x, double y, double W, double H);
     void mouseMove(int buttons, double x, double y, double W, double H);
-    void mouseUp(int button, double x, double y, double W, double H);
+    void mouseUp();
     /// True while each idle turn of the event loop is to call `idleStep`: a turn of the scene goes on by itself. To be
     /// asked anew after every action of the user.
     bool wantsIdle() const;

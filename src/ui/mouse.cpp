@@ -115,7 +115,8 @@ void Mouse::up() {
 }
 
 bool Mouse::wantsIdle() const {
-    return idling_ && state_.QuickDraw && !StopSpin;
+    // A scene that stands by its angles would be drawn as it is, again and again.
+    return idling_ && state_.QuickDraw && state_.UseQuat && !StopSpin;
 }
 
 void Mouse::idleStep() {

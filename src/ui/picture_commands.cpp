@@ -53,12 +53,12 @@ void handOver(const core::AppState& state, Hand&& hand) {
 }  // namespace
 
 void frmF1::mnuEditCopyAs_Click() {
-    if (state_.AllGraphs.empty()) return;
+    if (state_.AllGraphs.empty()) return state_.desktop.status("There is no graph to copy.");
     handOver(state_, [this](const fs::path& path) { state_.desktop.copyPicture(path); });
 }
 
 void frmF1::mnuFilePrint_Click() {
-    if (state_.AllGraphs.empty()) return;
+    if (state_.AllGraphs.empty()) return state_.desktop.status("There is no graph to print.");
     state_.desktop.displayPicture();
     handOver(state_, [this](const fs::path& path) { state_.desktop.printPicture(path); });
 }

@@ -140,6 +140,8 @@ TEST_F(InteractionTest, keysOfTheClipboardFollowTheFocus) {
     EXPECT_EQ(state.panel.cell(2, 2), "1");
     QTest::keyClick(grid, Qt::Key_X, Qt::ControlModifier);
     EXPECT_EQ(state.panel.cell(2, 2), "");
+    QTest::keyClick(grid, Qt::Key_Delete, Qt::KeypadModifier);
+    EXPECT_EQ(state.AllGraphs.Graphs.size(), 1U);
 
     QGuiApplication::clipboard()->setText("1,5\r\n2\r\n");
     grid->setCurrentIndex(grid->model()->index(8, 3));

@@ -19,7 +19,7 @@ class MouseTest : public ScriptedWindow {
     }
     void press(double x, double y) { window.mouseDown(mouse_button::left, x, y, W, H); }
     void drag(double x, double y) { window.mouseMove(mouse_button::left, x, y, W, H); }
-    void release() { window.mouseUp(mouse_button::left, 0, 0, W, H); }
+    void release() { window.mouseUp(); }
     std::size_t samples() const {
         const std::string text = gl::toText(*state.compiled.list900);
         std::size_t count = 0;
