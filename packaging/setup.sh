@@ -2,7 +2,7 @@
 
 build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6opengl6-dev qt6-svg-dev
   libgl-dev libegl-dev libopengl-dev libglu1-mesa-dev libgl1-mesa-dri libegl1 libfreetype-dev libfontconfig-dev libcli11-dev
-  fonts-liberation"
+  fonts-liberation cmark-gfm"
 test_packages="libgtest-dev libgmock-dev xvfb xauth openbox"
 bench_packages="libbenchmark-dev"
 

@@ -90,7 +90,7 @@ int main() {
         program.form.mouseMove(1, width * (0.5 + 0.4 * std::sin(i * 0.1)), height * (0.5 + 0.4 * std::cos(i * 0.13)),
                                width, height);
     });
-    program.form.mouseUp(1, width / 2.0, height / 2.0, width, height);
+    program.form.mouseUp();
 
     constexpr std::array samples{"surface_rg.tsp", "delaunay.tsp", "sphere.tsp", "surface_colormap.tsp"};
     const bool opens = measure("document", documents,

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -28,9 +29,12 @@ void takeScaling(AppState& state, const data::Scaling& read) {
     state.scaling.ZoomZ = read.ZoomZ;
 }
 
+/// Ids of later graphs count on from those of the document, even if these stand at the end of the numbers.
+constexpr int largestStartOfIds = 2'000'000'000;
+
 void takeGraphs(AppState& state, std::vector<graphs::Cls9> graphs) {
     for (graphs::Cls9& read : graphs) {
-        if (read.ID > state.LastGraphId) state.LastGraphId = read.ID + 1;
+        if (read.ID > state.LastGraphId) state.LastGraphId = std::min(read.ID, largestStartOfIds) + 1;
         auto graph = std::make_shared<graphs::Cls9>(std::move(read));
         state.AllGraphs.Graphs.push_back(graph);
         state.List1.add(graph, state.scene.SceneMode);

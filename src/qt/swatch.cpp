@@ -35,6 +35,7 @@ QColor colorOf(base::PackedColor color) {
 
 QIcon swatchIcon(const std::vector<base::PackedColor>& colors, QSize size) {
     QPixmap pixmap(size * iconScale);
+    pixmap.fill(Qt::transparent);
     pixmap.setDevicePixelRatio(iconScale);
     QPainter painter(&pixmap);
     paintSwatch(painter, colors, QRectF(QPointF(), size));

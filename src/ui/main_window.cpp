@@ -35,7 +35,13 @@ void frmF1::load(const std::filesystem::path& path) {
         return;
     }
     core::RebuildScene(state_);
-    openDocument(path);
+    try {
+        openDocument(path);
+    } catch (const base::Failure& failure) {
+        if (failure.code() == base::FailureCode::FileUnreadable) throw;
+        // The table is there to be mended.
+        showFailure(failure);
+    }
 }
 
 bool frmF1::hasCommand(std::string_view command) {

@@ -28,7 +28,8 @@ class frmF1 {
     HelpTargets help;
 
     /// What happens at the start, once the picture exists: defaults, the file type, then the document at `path` or a
-    /// new 3D document if it is empty. Throws a Failure for a document that cannot be read.
+    /// new 3D document if it is empty. Throws FileUnreadable for a file that cannot be read; any other failure is shown
+    /// and leaves what was read.
     void load(const std::filesystem::path& path);
 
     /// Runs the command of a menu entry or popup entry by name, if it is enabled. A failure is shown in the error box;

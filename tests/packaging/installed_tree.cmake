@@ -4,7 +4,8 @@
 file(REMOVE_RECURSE ${TREE})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${TREE} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 foreach(file bin/tessaplot share/applications/tessaplot.desktop share/mime/packages/tessaplot.xml
-        share/icons/hicolor/scalable/apps/tessaplot.svg share/tessaplot/help.ini share/tessaplot/samples/chart.bmp)
+        share/icons/hicolor/scalable/apps/tessaplot.svg share/tessaplot/help.ini
+        share/man/man1/tessaplot.1.gz share/bash-completion/completions/tessaplot-cli share/tessaplot/samples/chart.bmp)
   if(NOT EXISTS ${TREE}/${file})
     message(FATAL_ERROR "${file} is not installed")
   endif()
