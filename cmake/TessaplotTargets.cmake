@@ -24,6 +24,10 @@ if(TESSAPLOT_SANITIZE)
                          -fno-omit-frame-pointer)
   target_link_options(tessaplot_options INTERFACE -fsanitize=${TESSAPLOT_SANITIZE})
 endif()
+if(TESSAPLOT_FUZZ)
+  # Counts which branches an input takes; the fuzzers link what reads the counts.
+  target_compile_options(tessaplot_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # One library for a folder of src/. A target sees the headers of a folder only through the link to its library, so that
 # an include from a higher floor does not compile.

@@ -1,0 +1,284 @@
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "base/failure.h"
+#include "core/document.h"
+#include "core/example_state.h"
+#include "ui/main_window.h"
+
+namespace tessaplot::core {
+namespace {
+
+namespace fs = std::filesystem;
+
+enum class Fault { DieBefore, DieHalfway, DieAfter, Fail, ShortAndInterrupted, FolderVanishes };
+
+/// What is to happen at one of the calls by which a save changes the disk, counted from 1.
+struct Plan {
+    Fault fault = Fault::Fail;
+    std::size_t at = 0;  ///< 0 for none of them.
+    int error = ENOSPC;
+    fs::path folder;
+};
+
+constexpr int killed = 77;
+
+std::optional<Plan> plan;
+std::vector<std::string> calls;
+
+/// Runs a call, or does what the plan says; `part` is the share of a write that comes through.
+long disturb(const char* name, const std::function<long()>& call, const std::function<long()>& part = {}) {
+    if (!plan) return call();
+    calls.emplace_back(name);
+    const bool interruptedNow = plan->fault == Fault::ShortAndInterrupted && part;
+    if (interruptedNow && calls.size() % 2 == 0) return part();
+    if (interruptedNow) {
+        errno = EINTR;
+        return -1;
+    }
+    if (calls.size() != plan->at) return call();
+    if (plan->fault == Fault::FolderVanishes) {
+        fs::remove_all(plan->folder);
+        return call();
+    }
+    if (plan->fault == Fault::DieAfter) call();
+    if (part && plan->fault != Fault::DieBefore && plan->fault != Fault::DieAfter) part();
+    if (plan->fault != Fault::Fail) _exit(killed);
+    errno = plan->error;
+    return -1;
+}
+
+}  // namespace
+}  // namespace tessaplot::core
+
+// The linker sends these calls of the program here; the names are its own.
+// NOLINTBEGIN
+extern "C" {
+int __real_mkstemp(char* name);
+ssize_t __real_write(int file, const void* bytes, size_t size);
+int __real_fchmod(int file, mode_t mode);
+int __real_fsync(int file);
+int __real_close(int file);
+int __real_rename(const char* from, const char* to);
+
+int __wrap_mkstemp(char* name) {
+    return static_cast<int>(tessaplot::core::disturb("mkstemp", [&] { return __real_mkstemp(name); }));
+}
+ssize_t __wrap_write(int file, const void* bytes, size_t size) {
+    return tessaplot::core::disturb(
+        "write", [&] { return __real_write(file, bytes, size); },
+        [&] { return __real_write(file, bytes, (size + 1) / 2); });
+}
+int __wrap_fchmod(int file, mode_t mode) {
+    return static_cast<int>(tessaplot::core::disturb("fchmod", [&] { return __real_fchmod(file, mode); }));
+}
+int __wrap_fsync(int file) {
+    return static_cast<int>(tessaplot::core::disturb("fsync", [&] { return __real_fsync(file); }));
+}
+int __wrap_close(int file) {
+    return static_cast<int>(tessaplot::core::disturb("close", [&] { return __real_close(file); }));
+}
+int __wrap_rename(const char* from, const char* to) {
+    return static_cast<int>(tessaplot::core::disturb("rename", [&] { return __real_rename(from, to); }));
+}
+}
+// NOLINTEND
+
+namespace tessaplot::core {
+namespace {
+
+/// Runs `save` in a process of its own that the plan may end. What it ended with: 0 for a save, 1 for a refusal.
+int inAnotherProcess(const std::optional<Plan>& planned, const std::function<void()>& save) {
+    const pid_t child = fork();
+    if (child == 0) {
+        plan = planned;
+        calls.clear();
+        try {
+            save();
+        } catch (const base::Failure&) {
+            _exit(1);
+        }
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::string bytesOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class CrashSafety : public testing::Test {
+ protected:
+    void SetUp() override {
+        folder = fs::path(testing::TempDir()) /
+                 ("crash-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+        path = folder / "kept.tsp";
+        fillPanel(state.panel, data::DataKind::RegularSurface);
+        addGraph(state, graphs::graph_type::gridModel);
+        state.TheAxis.TitleX = std::string(70000, 'x');
+        longText = documentText(partsOf(state, state.AllGraphs));
+        state.TheAxis.TitleX = "short";
+        shortText = documentText(partsOf(state, state.AllGraphs));
+    }
+    void TearDown() override {
+        plan.reset();
+        fs::remove_all(folder);
+    }
+
+    std::string savedBytes(const std::string& before, const std::string& after) {
+        fs::remove(path);
+        if (!before.empty()) writeDocumentFile(path, before);
+        writeDocumentFile(path, after);
+        return bytesOf(path);
+    }
+    std::string startWith(const std::string& text) {
+        fs::remove(path);
+        if (!text.empty()) writeDocumentFile(path, text);
+        return bytesOf(path);
+    }
+    std::ptrdiff_t filesBeside() const { return std::distance(fs::directory_iterator(folder), {}); }
+
+    /// Saves with `fault` at every call in turn and holds what is left against the old file and the new one.
+    void disturbEveryCall(Fault fault, const std::string& before, const std::string& after) {
+        const std::string whole = savedBytes(before, after);
+        for (std::size_t at = 1;; ++at) {
+            const std::string old = startWith(before);
+            const int ended =
+                inAnotherProcess(Plan{fault, at, ENOSPC, folder}, [&] { writeDocumentFile(path, after); });
+            const std::string left = bytesOf(path);
+            ASSERT_TRUE(left == old || left == whole) << "a mixture is left by the call " << at;
+            EXPECT_TRUE(ended != 0 || left == whole) << "a save that tells of no failure has happened";
+            if (ended == 0) break;
+            ASSERT_EQ(ended, fault == Fault::Fail ? 1 : killed);
+            EXPECT_TRUE(fault != Fault::Fail || filesBeside() == (before.empty() ? 0 : 1)) << at;
+            ASSERT_LT(at, 50U);
+            outcomes.insert(left == whole ? "new" : "old");
+        }
+    }
+
+    AppState state;
+    std::string longText;
+    std::string shortText;
+    fs::path folder;
+    fs::path path;
+    std::set<std::string> outcomes;
+};
+
+TEST_F(CrashSafety, aProcessKilledAtAnyCallOfASaveLeavesTheOldOrTheNewDocument) {
+    for (const Fault fault : {Fault::DieBefore, Fault::DieHalfway, Fault::DieAfter}) {
+        disturbEveryCall(fault, "", longText);
+        disturbEveryCall(fault, shortText, longText);
+        disturbEveryCall(fault, longText, shortText);
+    }
+    EXPECT_EQ(outcomes, (std::set<std::string>{"new", "old"}));
+    EXPECT_EQ(readDocumentFile(path), shortText);
+}
+
+TEST_F(CrashSafety, anyCallThatFailsIsToldAndLeavesTheOldDocumentAndNothingBesideIt) {
+    disturbEveryCall(Fault::Fail, "", longText);
+    disturbEveryCall(Fault::Fail, longText, shortText);
+    EXPECT_EQ(outcomes, std::set<std::string>{"old"});
+}
+
+TEST_F(CrashSafety, bytesAreOnTheDiskBeforeTheyTakeThePlaceOfTheOld) {
+    plan = Plan{};
+    calls.clear();
+    writeDocumentFile(path, longText);
+    plan.reset();
+    const auto lastWrite = std::find(calls.rbegin(), calls.rend(), "write").base();
+    const auto sync = std::find(lastWrite, calls.end(), "fsync");
+    EXPECT_NE(std::find(sync, calls.end(), "rename"), calls.end()) << testing::PrintToString(calls);
+}
+
+TEST_F(CrashSafety, shortAndInterruptedWritesGoOn) {
+    plan = Plan{Fault::ShortAndInterrupted, 0, 0, folder};
+    calls.clear();
+    writeDocumentFile(path, longText);
+    plan.reset();
+    EXPECT_EQ(readDocumentFile(path), longText);
+    EXPECT_GT(std::count(calls.begin(), calls.end(), "write"), 10);
+}
+
+TEST_F(CrashSafety, aFolderThatVanishesDuringASaveIsTold) {
+    for (std::size_t at = 1; at < 50; ++at) {
+        fs::create_directories(folder);
+        const int ended =
+            inAnotherProcess(Plan{Fault::FolderVanishes, at, 0, folder}, [&] { writeDocumentFile(path, longText); });
+        if (ended == 0) {
+            EXPECT_EQ(readDocumentFile(path), longText);
+            return;
+        }
+        EXPECT_EQ(ended, 1) << at;
+    }
+    FAIL() << "nothing was saved";
+}
+
+TEST_F(CrashSafety, aReadOnlyFolderKeepsItsDocument) {
+    const std::string old = startWith(shortText);
+    fs::permissions(path, fs::perms::all);
+    fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                                fs::perms::others_exec | fs::perms::group_read | fs::perms::group_exec);
+    constexpr uid_t nobody = 65534;
+    const int ended = inAnotherProcess({}, [&] {
+        if (geteuid() == 0 && setuid(nobody) != 0) return;
+        writeDocumentFile(path, longText);
+    });
+    fs::permissions(folder, fs::perms::owner_all);
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(bytesOf(path), old);
+}
+
+TEST_F(CrashSafety, aFullDiskKeepsItsDocument) {
+    if (mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=64k") != 0)
+        GTEST_SKIP() << "a disk of its own takes a system administrator";
+    const std::string old = startWith(shortText);
+    const int ended = inAnotherProcess({}, [&] { writeDocumentFile(path, longText); });
+    const std::string left = bytesOf(path);
+    const std::ptrdiff_t files = filesBeside();
+    umount(folder.c_str());
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(left, old);
+    EXPECT_EQ(files, 1) << "what did not fit is removed";
+}
+
+TEST_F(CrashSafety, aRecoveryDocumentIsWholeOrNotThereAndOpensAgain) {
+    showGridModel(state);
+    const ui::frmF1 window(state);
+    for (std::size_t at = 1; at < 50; ++at) {
+        const int ended =
+            inAnotherProcess(Plan{Fault::DieHalfway, at, 0, folder}, [&] { window.saveRecovery(folder); });
+        for (const auto& entry : fs::directory_iterator(folder)) {
+            if (entry.path().extension() != ".tsp") continue;
+            AppState opened;
+            EXPECT_EQ(LoadDocument(opened, entry.path()), LoadResult::Loaded);
+            EXPECT_EQ(opened.ShownGraphs.Graphs.size(), 2U);
+            if (ended == 0) return;
+        }
+        ASSERT_EQ(ended, killed);
+    }
+    FAIL() << "no recovery document was written";
+}
+
+}  // namespace
+}  // namespace tessaplot::core
