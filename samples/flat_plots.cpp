@@ -36,10 +36,6 @@ constexpr int alongZ = 3;
 constexpr int colorMap = 5;
 }  // namespace area_color
 
-double between(double from, double to, double share) {
-    return from + (to - from) * share;
-}
-
 double radians(double degrees) {
     return degrees * M_PI / 180;
 }
@@ -201,17 +197,6 @@ void writeSphere(const path& folder) {
     useRamp(surface, "Marine");
     addContours(sample, 0.15, "Rainbow");
     sample.write(folder / "surface_3dcs.tsp");
-}
-
-/// Place n of a sequence that fills the unit interval evenly: the digits of n in a base, mirrored at the point.
-double radicalInverse(int n, int base) {
-    double value = 0;
-    double digit = 1;
-    for (; n > 0; n /= base) {
-        digit /= base;
-        value += digit * (n % base);
-    }
-    return value;
 }
 
 /// Soundings of a lake floor, with its depth lines on the map below.

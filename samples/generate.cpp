@@ -14,12 +14,9 @@ namespace {
 using namespace tessaplot;
 using base::packColor;
 using data::DataKind;
+using samples::between;
 using samples::Row;
 using samples::SampleBuilder;
-
-double between(double from, double to, double share) {
-    return from + (to - from) * share;
-}
 
 void addGridModel(SampleBuilder& sample, base::PackedColor color) {
     graphs::Cls9& grid = sample.add(graphs::graph_type::gridModel, "3D Grid Model");

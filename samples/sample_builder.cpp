@@ -124,4 +124,14 @@ void SampleBuilder::write(const std::filesystem::path& path) const {
     core::writeDocumentFile(path, core::documentText(core::partsOf(state_, state_.ShownGraphs)));
 }
 
+double radicalInverse(int n, int base) {
+    double value = 0;
+    double digit = 1;
+    for (; n > 0; n /= base) {
+        digit /= base;
+        value += digit * (n % base);
+    }
+    return value;
+}
+
 }  // namespace tessaplot::samples

@@ -69,4 +69,11 @@ class SampleBuilder {
     int lastH_ = 0;
 };
 
+inline double between(double from, double to, double share) {
+    return from + (to - from) * share;
+}
+
+/// Place n of a sequence that fills the unit interval evenly: the digits of n in a base, mirrored at the point.
+double radicalInverse(int n, int base);
+
 }  // namespace tessaplot::samples

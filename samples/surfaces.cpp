@@ -29,10 +29,6 @@ constexpr int fillShape = 3;
 constexpr int flat = 1;
 constexpr int smoothest = 3;
 
-double between(double from, double to, double share) {
-    return from + (to - from) * share;
-}
-
 double bump(double x, double y, double middleX, double middleY, double width) {
     return std::exp(-(std::pow(x - middleX, 2) + std::pow(y - middleY, 2)) / (width * width));
 }
@@ -71,17 +67,6 @@ void writeRegular(const path& folder) {
     squareSurface(sample, 61, 3, hills);
     addSurface(sample, "Rainbow");
     sample.write(folder / "surface_rg.tsp");
-}
-
-/// Place n of a sequence that fills the unit square evenly: the digits of n in a base, mirrored at the point.
-double radicalInverse(int n, int base) {
-    double value = 0;
-    double digit = 1;
-    for (; n > 0; n /= base) {
-        digit /= base;
-        value += digit * (n % base);
-    }
-    return value;
 }
 
 template <class Height>

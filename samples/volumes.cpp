@@ -43,10 +43,6 @@ constexpr Block cube(double limit) {
     return {{-limit, -limit, -limit}, {limit, limit, limit}};
 }
 
-double between(double from, double to, double share) {
-    return from + (to - from) * share;
-}
-
 double distance(const Point& a, const Point& b) {
     return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z);
 }
@@ -198,17 +194,6 @@ void writeSlice(const path& folder) {
     addSlice(slices.SlicesY, 5);
     addSlice(slices.SlicesZ, 1.5);
     sample.write(folder / "4dslice.tsp");
-}
-
-/// Place n of a sequence that fills the unit interval evenly: the digits of n in a base, mirrored at the point.
-double radicalInverse(int n, int base) {
-    double value = 0;
-    double digit = 1;
-    for (; n > 0; n /= base) {
-        digit /= base;
-        value += digit * (n % base);
-    }
-    return value;
 }
 
 /// Probes scattered through the vortex, gridded, with the probes as marks.
