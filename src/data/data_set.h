@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/checked_array.h"
+#include "base/missing_value.h"
 #include "data/data_kind.h"
 #include "data/data_panel.h"
 #include "data/scaling.h"
@@ -15,8 +16,8 @@ namespace tessaplot::data {
 
 using Array = base::CheckedArray<double>;
 
-/// A coordinate or value that marks a node without data. It takes part in extents and is never scaled.
-inline constexpr double missingValue = 0.12345;
+/// Marks a node without data; it takes part in extents and is never scaled.
+using base::missingValue;
 
 /// The numbers behind the graphs: the scattered points as they were entered and the regular grid that plots draw from.
 /// Bounds of all arrays run from 0 to the count inclusive; the last element of each is spare and 0.

@@ -97,7 +97,7 @@ void LevelScale::nudge(std::span<double> z, std::span<LevelPlace> places) const 
         const double inside = steps > 0 ? std::min(steps, last) : 0;
         const auto guess = static_cast<std::size_t>(static_cast<int>(inside));
         const bool clear = z[j] - padded_[guess] > nudgeReach && padded_[guess + 1] - z[j] > nudgeReach;
-        places[j] = clear && z[j] != missingNode ? static_cast<LevelPlace>(2 * guess) : nudgeNear(z[j], guess);
+        places[j] = clear && z[j] != base::missingValue ? static_cast<LevelPlace>(2 * guess) : nudgeNear(z[j], guess);
     }
 }
 
@@ -112,7 +112,7 @@ LevelPlace LevelScale::nudgeNear(double& z, std::size_t guess) const {
     std::size_t place = next;
     for (; next < end && !(padded_[next] - z > nudgeReach); ++next) {
         if (std::abs(z - padded_[next]) <= nudgeReach) z += nudgeStep;
-        if (z == missingNode) return noPlace;
+        if (z == base::missingValue) return noPlace;
     }
     while (place < end && padded_[place] < z)
         ++place;

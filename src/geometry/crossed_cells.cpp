@@ -32,7 +32,7 @@ std::uint32_t usableNodes(const double* values) {
 
 void CrossedCells::classifyBlock(const double* values, int first, float level, Line& line) {
     constexpr float largest = std::numeric_limits<float>::max();
-    constexpr auto marker = static_cast<float>(missingNode);
+    constexpr auto marker = static_cast<float>(base::missingValue);
     Bits below{};
     Bits plain = ~Bits{};
     for (int n = 0; n < blockSize; n += laneCount) {
@@ -50,7 +50,7 @@ CrossedCells::Line CrossedCells::classified(const double* values, int count, flo
     Line line;
     if (count < blockSize) {
         std::array<double, blockSize> padded{};
-        std::fill(std::copy(values, values + count, padded.begin()), padded.end(), missingNode);
+        std::fill(std::copy(values, values + count, padded.begin()), padded.end(), base::missingValue);
         classifyBlock(padded.data(), 0, level, line);
         return line;
     }

@@ -2,14 +2,13 @@
 
 #include <cmath>
 
-namespace tessaplot::geometry {
+#include "base/missing_value.h"
 
-/// A coordinate or value that marks a node without data.
-inline constexpr double missingNode = 0.12345;
+namespace tessaplot::geometry {
 
 /// True for a number that 32-bit geometry can hold: not the marker, not a not-a-number, and finite after rounding.
 inline bool isUsable(double number) {
-    return number != missingNode && std::isfinite(static_cast<float>(number));
+    return number != base::missingValue && std::isfinite(static_cast<float>(number));
 }
 
 }  // namespace tessaplot::geometry

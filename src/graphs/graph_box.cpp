@@ -1,6 +1,7 @@
 #include <cstddef>
 #include <span>
 
+#include "data/range.h"
 #include "graphs/graph.h"
 #include "graphs/over_scale.h"
 
@@ -20,10 +21,7 @@ struct Range {
         minimum = emptyMinimum;
         maximum = emptyMaximum;
     }
-    void widen(double value) {
-        if (value > maximum) maximum = value;
-        if (value < minimum) minimum = value;
-    }
+    void widen(double value) { data::widen(value, minimum, maximum); }
 };
 
 /// Widens the range by elements 0 to the last index of each dimension; no bounds, no elements.

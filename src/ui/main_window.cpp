@@ -44,10 +44,6 @@ void frmF1::load(const std::filesystem::path& path) {
     }
 }
 
-bool frmF1::hasCommand(std::string_view command) {
-    return CommandTable::find(command) != nullptr;
-}
-
 void frmF1::run(std::string_view command) {
     if (isEnabled(command)) carryOut(command);
 }

@@ -36,8 +36,6 @@ class frmF1 {
     /// the document stays.
     void run(std::string_view command);
     bool isEnabled(std::string_view command) const;
-    /// True if there is such a command at all.
-    static bool hasCommand(std::string_view command);
 
     /// The toolbar, by the number of the button from 1 on; separators do nothing and are never enabled.
     void Toolbar1_ButtonClick(int index);

@@ -1,6 +1,5 @@
 #include "ui/toolbar_table.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -64,11 +63,6 @@ constexpr std::array<ToolbarButton, toolbarSize> places = withSeparators();
 
 std::span<const ToolbarButton> toolbar() {
     return places;
-}
-
-std::string_view toolbarHint(int index) {
-    const auto found = std::ranges::find(buttons, index, &ToolbarButton::index);
-    return found == buttons.end() ? "Ready" : found->hint;
 }
 
 }  // namespace tessaplot::ui

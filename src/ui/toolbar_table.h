@@ -17,7 +17,4 @@ inline constexpr int toolbarSize = 50;
 /// All places of the toolbar from left to right.
 std::span<const ToolbarButton> toolbar();
 
-/// What the status line shows while the pointer is over that place; "Ready" for a separator and any other number.
-std::string_view toolbarHint(int index);
-
 }  // namespace tessaplot::ui

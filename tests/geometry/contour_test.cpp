@@ -63,7 +63,7 @@ double uniform(std::mt19937& random, double low, double high) {
 }
 
 double orHole(std::mt19937& random, double value) {
-    const double holes[] = {missingNode, notANumber, infinity, -infinity, 1e300};
+    const double holes[] = {base::missingValue, notANumber, infinity, -infinity, 1e300};
     const auto pick = random() % 60;
     return pick < 5 ? holes[pick] : value;
 }
@@ -88,8 +88,8 @@ const Kind kinds[] = {
     {"holes in waves", 0.1,
      [](std::mt19937& random, int i, int j) { return orHole(random, std::sin(0.4 * i) * std::cos(0.3 * j)); }},
     {"near the marker", 2e-5,
-     [](std::mt19937& random, int, int) { return missingNode + 1e-5 * static_cast<int>(random() % 9) - 4e-5; }},
-    {"nothing but holes", 0.3, [](std::mt19937&, int, int) { return missingNode; }},
+     [](std::mt19937& random, int, int) { return base::missingValue + 1e-5 * static_cast<int>(random() % 9) - 4e-5; }},
+    {"nothing but holes", 0.3, [](std::mt19937&, int, int) { return base::missingValue; }},
 };
 
 Field fieldOf(const Kind& kind, int m, int n, unsigned seed) {
@@ -195,7 +195,7 @@ TEST(ContourLines, CloseFromTheirFirstCrossingTowardsRisingFirstIndex) {
 }
 
 TEST(ContourLines, LeaveAHoleNoWiderThanTheCellsOfAMissingNode) {
-    for (const double hole : {missingNode, notANumber, infinity, -infinity}) {
+    for (const double hole : {base::missingValue, notANumber, infinity, -infinity}) {
         // A bowl: no saddles, whose sides depend on where a line comes from.
         Field whole(40, 40, [](int i, int j) { return std::hypot(i - 17.3, j - 25.6); });
         Field torn = whole;
