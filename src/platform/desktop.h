@@ -17,6 +17,7 @@ enum class Icon { None, Warning, Error };
 enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Answer { Ok, Yes, No, Cancel };
 
+/// What a box says, and the buttons that it offers.
 struct Message {
     std::string title;
     std::string text;
@@ -24,6 +25,7 @@ struct Message {
     Buttons buttons = Buttons::Ok;
 };
 
+/// What a file dialog asks for.
 struct FileQuestion {
     enum class Mode { Open, Save };
     Mode mode = Mode::Open;
@@ -31,6 +33,7 @@ struct FileQuestion {
     std::string filter;  ///< Pairs of a description and a pattern, all separated by "|".
 };
 
+/// What the user chose in a file dialog.
 struct FileChoice {
     std::string path;
     int filterIndex = 1;  ///< 1-based entry of the filter.
@@ -85,6 +88,7 @@ struct Desktop {
     /// Shows a popup menu at the pointer, by its name in the menu table.
     std::function<void(std::string_view)> popUpMenu;
 
+    /// Each of these asks the member of its kind, or answers for a desktop that has none.
     Answer askUser(const Message& message) const;
     std::optional<FileChoice> chooseFileName(const FileQuestion& question) const;
     void status(std::string_view text) const;
