@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace tessaplot::gl {
+
+/// A face in a file that may hold several.
+struct FontFile {
+    std::string path;
+    int faceIndex = 0;
+};
+
+/// The face that Fontconfig finds for a family: upright, of regular weight and with outlines, maybe a substitute.
+/// Throws as `failFont` does if this machine has no fonts.
+FontFile findFont(const std::string& family);
+
+/// Throws base::Failure (FileUnreadable), "Unable to create font" with the reason.
+[[noreturn]] void failFont(const std::string& reason);
+
+}  // namespace tessaplot::gl
