@@ -26,8 +26,14 @@ constexpr bool isIrregular(DataKind kind) {
 constexpr bool isVolume(DataKind kind) {
     return kind == DataKind::RegularVolume || kind == DataKind::IrregularVolume;
 }
+constexpr bool isCylindrical(DataKind kind) {
+    return kind == DataKind::RegularCylindrical || kind == DataKind::IrregularCylindrical;
+}
+constexpr bool isSpherical(DataKind kind) {
+    return kind == DataKind::RegularSpherical || kind == DataKind::IrregularSpherical;
+}
 constexpr bool isCurvilinear(DataKind kind) {
-    return static_cast<int>(kind) >= 4;
+    return isCylindrical(kind) || isSpherical(kind);
 }
 
 /// The panel's caption of a kind.

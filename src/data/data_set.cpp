@@ -15,10 +15,8 @@ namespace {
 constexpr double startMinimum = 1e10;
 constexpr double startMaximum = -1e10;
 
-void startRange(double& minimum, double& maximum) {
-    minimum = startMinimum;
-    maximum = startMaximum;
-}
+/// A range that fills the scene comes to so many units.
+constexpr double sceneUnits = 10;
 
 /// Calls `visit(offset)` for each node but the spare ones, in the order in which they lie in memory.
 template <class Visitor>
@@ -38,7 +36,9 @@ void requireNodes(const Array& array, int countI, int countJ, int countK = 1) {
     if (countI > 0 && countJ > 0 && countK > 0) static_cast<void>(array(countI - 1, countJ - 1, countK - 1));
 }
 
-void widenOver(const Array& array, int countI, int countJ, int countK, double& minimum, double& maximum) {
+void findRange(const Array& array, int countI, int countJ, int countK, double& minimum, double& maximum) {
+    minimum = startMinimum;
+    maximum = startMaximum;
     requireNodes(array, countI, countJ, countK);
     const auto values = array.values();
     forEachNode(array, countI, countJ, countK, [&](std::size_t at) { widen(values[at], minimum, maximum); });
@@ -68,6 +68,7 @@ void requireScale(double scale, std::string_view axis) {
                             "The data cannot be scaled: the range of " + std::string(axis) + " is too large.");
 }
 
+/// How far the data run along each axis.
 struct Ranges {
     double x;
     double y;
@@ -77,16 +78,16 @@ struct Ranges {
 void customSurfaceScales(const Ranges& range, Scaling& scaling) {
     const double longest =
         std::max(overRatio(range.x, scaling.ScaleRatioX, "X"), overRatio(range.y, scaling.ScaleRatioY, "Y"));
-    scaling.ScaleX = longest / 10;
+    scaling.ScaleX = longest / sceneUnits;
     scaling.ScaleY = scaling.ScaleRatioX * scaling.ScaleX / scaling.ScaleRatioY;
-    scaling.ScaleZ = overRatio(range.z / 10, scaling.ZoomZ, "Z (Zoom Z)");
+    scaling.ScaleZ = overRatio(range.z / sceneUnits, scaling.ZoomZ, "Z (Zoom Z)");
 }
 
 void customVolumeScales(const Ranges& range, Scaling& scaling) {
     const double longest =
         std::max({overRatio(range.x, scaling.ScaleRatioX, "X"), overRatio(range.y, scaling.ScaleRatioY, "Y"),
                   overRatio(range.z, scaling.ScaleRatioZ, "Z")});
-    scaling.ScaleX = longest / 10;
+    scaling.ScaleX = longest / sceneUnits;
     scaling.ScaleY = scaling.ScaleRatioX * scaling.ScaleX / scaling.ScaleRatioY;
     scaling.ScaleZ = scaling.ScaleRatioX * scaling.ScaleX / scaling.ScaleRatioZ;
 }
@@ -94,40 +95,36 @@ void customVolumeScales(const Ranges& range, Scaling& scaling) {
 void computeScales(const ClsData& data, Scaling& scaling) {
     const Ranges range{data.MaxX - data.MinX, data.MaxY - data.MinY, data.MaxZ - data.MinZ};
     if (scaling.ScaleMode == 1) {
-        scaling.ScaleX = range.x / 10;
-        scaling.ScaleY = range.y / 10;
-        scaling.ScaleZ = range.z / 10;
+        scaling.ScaleX = range.x / sceneUnits;
+        scaling.ScaleY = range.y / sceneUnits;
+        scaling.ScaleZ = range.z / sceneUnits;
     } else if (scaling.ScaleMode == 2) {
-        scaling.ScaleX = scaling.ScaleY = scaling.ScaleZ = std::max({range.x, range.y, range.z}) / 10;
+        scaling.ScaleX = scaling.ScaleY = scaling.ScaleZ = std::max({range.x, range.y, range.z}) / sceneUnits;
     } else if (scaling.ScaleMode == 3) {
-        data.DataDim == 1 ? customSurfaceScales(range, scaling) : customVolumeScales(range, scaling);
+        if (data.DataDim == 1)
+            customSurfaceScales(range, scaling);
+        else
+            customVolumeScales(range, scaling);
     } else {
         throw base::Failure(base::FailureCode::BadInput, "The data cannot be scaled: there is no scale mode " +
                                                              std::to_string(scaling.ScaleMode) +
                                                              ", only 1 (square), 2 (equal) and 3 (custom).");
     }
-    if (data.DataDim == 2) scaling.ScaleV = (data.MaxV - data.MInv) / 10;
+    if (data.DataDim == 2) scaling.ScaleV = (data.MaxV - data.MInv) / sceneUnits;
 }
 
 }  // namespace
 
 void ClsData::GetBox() {
     if (DataDim == 1) {
-        startRange(MinX, MaxX);
-        startRange(MinY, MaxY);
-        startRange(MinZ, MaxZ);
-        widenOver(Reg3DX, StepsX, StepsY, 1, MinX, MaxX);
-        widenOver(Reg3DY, StepsX, StepsY, 1, MinY, MaxY);
-        widenOver(Reg3DZ, StepsX, StepsY, 1, MinZ, MaxZ);
+        findRange(Reg3DX, StepsX, StepsY, 1, MinX, MaxX);
+        findRange(Reg3DY, StepsX, StepsY, 1, MinY, MaxY);
+        findRange(Reg3DZ, StepsX, StepsY, 1, MinZ, MaxZ);
     } else if (DataDim == 2 && DataType == 1) {
-        startRange(MinX, MaxX);
-        startRange(MinY, MaxY);
-        startRange(MinZ, MaxZ);
-        startRange(MInv, MaxV);
-        widenOver(Reg4DX, StepsX, StepsY, StepsZ, MinX, MaxX);
-        widenOver(Reg4DY, StepsX, StepsY, StepsZ, MinY, MaxY);
-        widenOver(Reg4DZ, StepsX, StepsY, StepsZ, MinZ, MaxZ);
-        widenOver(Reg4DV, StepsX, StepsY, StepsZ, MInv, MaxV);
+        findRange(Reg4DX, StepsX, StepsY, StepsZ, MinX, MaxX);
+        findRange(Reg4DY, StepsX, StepsY, StepsZ, MinY, MaxY);
+        findRange(Reg4DZ, StepsX, StepsY, StepsZ, MinZ, MaxZ);
+        findRange(Reg4DV, StepsX, StepsY, StepsZ, MInv, MaxV);
     }
 }
 

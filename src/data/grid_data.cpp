@@ -17,9 +17,15 @@ std::span<const double> pointsOf(const Array& column, int points) {
     return column.values().first(static_cast<std::size_t>(points));
 }
 
+numerics::SurfaceCoordinates coordinatesOf(DataKind kind) {
+    if (isCylindrical(kind)) return numerics::SurfaceCoordinates::Cylindrical;
+    if (isSpherical(kind)) return numerics::SurfaceCoordinates::Spherical;
+    return numerics::SurfaceCoordinates::Cartesian;
+}
+
 numerics::ScatteredSurface scatteredSurface(const ClsData& data, DataKind kind) {
     numerics::ScatteredSurface surface;
-    surface.coordinates = static_cast<numerics::SurfaceCoordinates>(kind);
+    surface.coordinates = coordinatesOf(kind);
     surface.x = pointsOf(data.Irreg3DX, data.Points);
     surface.y = pointsOf(data.Irreg3DY, data.Points);
     surface.z = pointsOf(data.Irreg3DZ, data.Points);
