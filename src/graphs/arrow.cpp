@@ -40,8 +40,7 @@ void DrawArrow(gl::DisplayList& list, const Cls9& graph, const GraphContext& con
     if (d[2] < 0) angle = 180 - angle;
     const scene::Vector3 axis = turningAxis(d);
 
-    const Rgb color = ColorToRGB(graph.Vect4DColor);
-    list.glColor3f(static_cast<float>(color.r), static_cast<float>(color.g), static_cast<float>(color.b));
+    emitFloatColor(list, ColorToRGB(graph.Vect4DColor));
     list.glPushMatrix();
     list.gluNewQuadric();
     list.glTranslatef(static_cast<float>(from.x - context.scene.SceneCenterX),

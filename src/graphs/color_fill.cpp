@@ -6,6 +6,7 @@
 #include <span>
 
 #include "base/failure.h"
+#include "graphs/letter_case.h"
 
 namespace tessaplot::graphs {
 
@@ -34,10 +35,6 @@ constexpr std::array<Stop, 2> grey{{{0, 200, 200, 200}, {100, 50, 50, 50}}};
 
 constexpr std::array<NamedRamp, 5> namedRamps{
     {{"RAINBOW", rainbow}, {"EARTH", earth}, {"FIERY", fiery}, {"MARINE", marine}, {"GREY", grey}}};
-
-constexpr char upperCase(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
 
 bool namesRamp(std::string_view text, std::string_view name) {
     return std::ranges::equal(text, name, {}, upperCase);

@@ -17,6 +17,15 @@ struct Rgb {
 /// The bytes of a packed colour over 255, got in floating point: a negative colour gives negative channels.
 Rgb ColorToRGB(base::PackedColor color);
 
+/// Sets the current colour.
+inline void emitColor(gl::DisplayList& list, const Rgb& color) {
+    list.glColor3d(color.r, color.g, color.b);
+}
+/// The same in single precision, as arrows have it.
+inline void emitFloatColor(gl::DisplayList& list, const Rgb& color) {
+    list.glColor3f(static_cast<float>(color.r), static_cast<float>(color.g), static_cast<float>(color.b));
+}
+
 /// Loads the stops of a named ramp ("RAINBOW", "EARTH", "FIERY", "MARINE", "GREY", also with a leading "@", in any
 /// case) into the graph; any other name does nothing.
 void ApplyNamedMap(Cls9& graph, std::string_view name);

@@ -56,7 +56,7 @@ class MapCells {
  private:
     void emitCorner(const Node& node, const Rgb& color) {
         list_.glNormal3d(0, 0, 0);
-        list_.glColor3d(color.r, color.g, color.b);
+        emitColor(list_, color);
         emitPlan(list_, scene_, {node.z, node.x}, height_);
     }
 
@@ -70,8 +70,7 @@ class MapCells {
 }  // namespace
 
 void emitColorMap(gl::DisplayList& list, Cls9& graph, const GraphContext& context, const NodeTable& nodes) {
-    const std::size_t cells = static_cast<std::size_t>(graph.StepU) * static_cast<std::size_t>(graph.StepV);
-    makeRoom(list, 14 * cells, 37 * cells);
+    makeRoom(list, 14 * cellCount(graph), 37 * cellCount(graph));
     list.glDisable(GL_LIGHTING);
     MapCells map(list, graph, context.scene, nodes);
     for (int i = 0; i < graph.StepU; ++i)

@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "base/angle.h"
+#include "data/curvilinear.h"
 #include "graphs/contour_lines.h"
 #include "graphs/emitters.h"
 #include "graphs/mesh_cell.h"
@@ -23,10 +24,8 @@ struct SurfaceCoordinates {
 };
 
 SurfaceCoordinates coordinatesOf(const data::ClsData& data, DataKind kind) {
-    if (kind == DataKind::RegularCylindrical || kind == DataKind::IrregularCylindrical)
-        return {data.Reg3DA, data.Reg3DD, data.Reg3DB};
-    if (kind == DataKind::RegularSpherical || kind == DataKind::IrregularSpherical)
-        return {data.Reg3DB, data.Reg3DA, data.Reg3DD};
+    if (data::isCylindrical(kind)) return {data.Reg3DA, data.Reg3DD, data.Reg3DB};
+    if (data::isSpherical(kind)) return {data.Reg3DB, data.Reg3DA, data.Reg3DD};
     return {data.Reg3DY, data.Reg3DX, data.Reg3DZ};
 }
 
@@ -59,22 +58,15 @@ class OnSurface {
     DataPoint operator()(const SurfacePoint& at) const {
         const double p = onEdge(coordinates_.p, at);
         const double q = onEdge(coordinates_.q, at);
-        if (kind_ == DataKind::RegularCylindrical || kind_ == DataKind::IrregularCylindrical) {
-            const double angle = base::degreesToRadians(p);
-            return scaled(std::cos(angle) * at.h, std::sin(angle) * at.h, q);
-        }
-        if (kind_ == DataKind::RegularSpherical || kind_ == DataKind::IrregularSpherical) {
-            const double polar = base::degreesToRadians(p);
-            const double longitude = base::degreesToRadians(q);
-            return scaled(std::sin(polar) * at.h * std::cos(longitude), std::sin(polar) * at.h * std::sin(longitude),
-                          std::cos(polar) * at.h);
-        }
+        if (data::isCylindrical(kind_)) return scaled(data::cylindricalPosition(base::degreesToRadians(p), at.h, q));
+        if (data::isSpherical(kind_))
+            return scaled(data::sphericalPosition(base::degreesToRadians(q), base::degreesToRadians(p), at.h));
         return {q, p, at.h};
     }
 
  private:
-    DataPoint scaled(double x, double y, double z) const {
-        return {overScale(x, scaling_.ScaleX), overScale(y, scaling_.ScaleY), overScale(z, scaling_.ScaleZ)};
+    DataPoint scaled(const data::Position& at) const {
+        return {overScale(at.x, scaling_.ScaleX), overScale(at.y, scaling_.ScaleY), overScale(at.z, scaling_.ScaleZ)};
     }
 
     DataKind kind_;

@@ -10,6 +10,7 @@
 #include "graphs/make_room.h"
 #include "graphs/mesh_cell.h"
 #include "graphs/over_scale.h"
+#include "graphs/surface_fill.h"
 
 namespace tessaplot::graphs {
 
@@ -19,7 +20,6 @@ using geometry::CContour;
 using geometry::ContourColor;
 using geometry::ContourLevel;
 
-constexpr int lineColorMap = 5;
 /// Far above the range of a channel: it is drawn as white.
 constexpr double overbright = 150.0;
 
@@ -58,7 +58,7 @@ geometry::ContourOptions optionsOf(Cls9& graph, const GraphContext& context, con
     options.colourMode = style.colorMode;
     options.firstColour = style.firstColor;
     options.lastColour = style.lastColor;
-    if (style.colorMode == lineColorMap) loadNamedRamp(graph);
+    if (style.colorMode == fill_style::colorMap) loadNamedRamp(graph);
     options.ColourFromMap = [&graph](double level, double lower, double range, ContourColor& color) {
         Rgb rgb{color.r, color.g, color.b};
         rampColor(graph, level, lower, nonZeroSpan(range), rgb);

@@ -9,8 +9,9 @@
 
 namespace tessaplot::graphs {
 
-/// How contour lines look. `colorMode` 4 gives every level `firstColor`, 3 runs from `firstColor` at the lowest level
-/// to `lastColor` at the highest, 5 takes the graph's colour map; any other sets no colour.
+/// How contour lines look. Of the numbers in `fill_style`, `colorMode` knows `single`, which gives every level
+/// `firstColor`, `alongZ`, which runs from `firstColor` at the lowest level to `lastColor` at the highest, and
+/// `colorMap`; any other sets no colour.
 struct ContourStyle {
     double interval = 0;
     int colorMode = 0;

@@ -14,8 +14,6 @@ namespace {
 
 using geometry::Triangle;
 
-constexpr int faceted = 1;
-
 constexpr std::array<std::int32_t, 3> cornersOf(const Triangle& triangle) {
     return {triangle.a, triangle.b, triangle.c};
 }
@@ -49,16 +47,13 @@ void requirePoints(std::span<const Triangle> triangles, const data::ClsData& dat
     if (largest > data.Points) base::failSubscript("The triangles' points", largest, 1, data.Points);
 }
 
-Direction between(const Node& from, const Node& to) {
-    return {to.x - from.x, to.y - from.y, to.z - from.z};
-}
-
 std::vector<Direction> triangleNormals(std::span<const Triangle> triangles, const Points& points) {
     std::vector<Direction> normals;
     normals.reserve(triangles.size());
     for (const Triangle& triangle : triangles) {
         const Node third = points(triangle.c);
-        normals.push_back(crossNormal(between(third, points(triangle.a)), between(third, points(triangle.b))));
+        normals.push_back(
+            crossNormal(directionBetween(third, points(triangle.a)), directionBetween(third, points(triangle.b))));
     }
     return normals;
 }
@@ -104,9 +99,8 @@ class Triangles {
             for (std::size_t corner = 0; corner < numbers.size(); ++corner) {
                 const std::int32_t number = numbers[corner];
                 const Node point = points_(number);
-                const Rgb& color = fill.surfaceColor(point, points_.value(number));
-                list_.glColor3d(color.r, color.g, color.b);
-                if (graph.Smoothness != faceted)
+                emitColor(list_, fill.surfaceColor(point, points_.value(number)));
+                if (graph.Smoothness != smoothness::flat)
                     emitNormal(corners[static_cast<std::size_t>(number)]);
                 else if (corner == 0)
                     emitNormal(faces[k]);
@@ -118,7 +112,7 @@ class Triangles {
 
     void emitEdges(const Rgb& color, int width) {
         for (const Triangle& triangle : context_.triangles) {
-            list_.glColor3d(color.r, color.g, color.b);
+            emitColor(list_, color);
             list_.glLineWidth(static_cast<float>(width));
             list_.glBegin(GL_LINES);
             for (const std::int32_t number : {triangle.a, triangle.b, triangle.b, triangle.c, triangle.a, triangle.c})

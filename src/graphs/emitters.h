@@ -27,6 +27,7 @@ class NodeTable : public GridTable<Node> {
     NodeTable(int lastI, int lastJ) : GridTable(lastI, lastJ) {}
 };
 
+/// The marker of a point, where its data coordinates lie in the scene.
 void emitPoint(gl::DisplayList& list, const Cls9& graph, const GraphContext& context);
 /// A marker at each node.
 void emitVertexModel(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes);

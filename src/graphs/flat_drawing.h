@@ -1,22 +1,18 @@
 #pragma once
 
-#include "gl/display_list.h"
+#include "graphs/smooth_lines.h"
 
 namespace tessaplot::graphs {
 
 /// Unlit drawing with smooth lines.
 inline void beginFlatDrawing(gl::DisplayList& list) {
     list.glDisable(GL_LIGHTING);
-    list.glEnable(GL_LINE_SMOOTH);
-    list.glEnable(GL_BLEND);
-    list.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-    list.glHint(GL_LINE_SMOOTH_HINT, GL_NICEST);
+    beginSmoothLines(list);
 }
 
 /// Ends the drawing of flat lines and arrows.
 inline void endFlatLines(gl::DisplayList& list) {
-    list.glDisable(GL_LINE_SMOOTH);
-    list.glDisable(GL_BLEND);
+    endSmoothLines(list);
     list.glEnable(GL_LIGHTING);
 }
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "graphs/color_fill.h"
+#include "graphs/flat_drawing.h"
 #include "graphs/make_room.h"
 #include "graphs/mesh_cell.h"
 
@@ -40,12 +42,6 @@ struct ArrowHeights {
 /// How many triangles the head of an arrow has.
 inline constexpr std::size_t arrowHeadSteps = 20;
 
-/// Makes room for an arrow at each inner node.
-inline void makeRoomForArrows(gl::DisplayList& list, const Cls9& graph) {
-    const std::size_t nodes = static_cast<std::size_t>(graph.StepU) * static_cast<std::size_t>(graph.StepV);
-    makeRoom(list, (4 + 5 * arrowHeadSteps) * nodes, (7 + 10 * arrowHeadSteps) * nodes);
-}
-
 /// The rim of an arrow's head about its tip, a hair past a full turn.
 inline const std::array<PlanePoint, arrowHeadSteps + 1>& arrowRim() {
     static const auto rim = [] {
@@ -79,6 +75,25 @@ void emitPlaneArrow(gl::DisplayList& list, const PlanePoint& from, const PlanePo
         vertex(tip, heights.shaft);
         list.glEnd();
     }
+}
+
+/// Emits the gradient of `valueAt(i, j)` as an arrow at each inner node that has a place, unlit and in one colour.
+template <class Value, class Vertex>
+void emitGradientArrows(gl::DisplayList& list, const Cls9& graph, const NodeTable& nodes, const Rgb& color,
+                        const Value& valueAt, const ArrowHeights& heights, const Vertex& vertex) {
+    makeRoom(list, (4 + 5 * arrowHeadSteps) * cellCount(graph), (7 + 10 * arrowHeadSteps) * cellCount(graph));
+    beginFlatDrawing(list);
+    emitFloatColor(list, color);
+    for (int i = 1; i < graph.StepU; ++i) {
+        for (int j = 1; j < graph.StepV; ++j) {
+            Gradient gradient;
+            const Node& node = nodes(i, j);
+            if (isMissing(node.x) || isMissing(node.z) || !gradientAt(valueAt, i, j, gradient)) continue;
+            const PlanePoint from{node.z, node.x};
+            emitPlaneArrow(list, from, {from.x + gradient.alongU, from.y + gradient.alongV}, heights, vertex);
+        }
+    }
+    endFlatLines(list);
 }
 
 }  // namespace tessaplot::graphs

@@ -58,8 +58,8 @@ struct SliceSet {
     const Slice& operator[](int i) const;
 
  private:
-    std::vector<Slice>
-        slices_;  ///< All or none: made whole on first write, so that a graph without slices stays small.
+    /// All or none: made whole on first write, so that a graph without slices stays small.
+    std::vector<Slice> slices_;
 };
 
 /// One plot of any kind: a flat record of presentation properties. It owns no data and draws from the one data set.

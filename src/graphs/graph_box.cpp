@@ -4,6 +4,7 @@
 #include "data/range.h"
 #include "graphs/graph.h"
 #include "graphs/over_scale.h"
+#include "graphs/surface_overlays.h"
 
 namespace tessaplot::graphs {
 
@@ -53,8 +54,8 @@ void boxSurface(Cls9& graph, const data::ClsData& data) {
     widenOver({graph.MinZ, graph.MaxZ}, data.Reg3DZ, graph.StepU, graph.StepV);
     widenOver({graph.MinX, graph.MaxX}, data.Reg3DX, graph.StepU, graph.StepV);
     widenOver({graph.MinC, graph.MaxC}, data.Reg3DC, graph.StepU, graph.StepV);
-    // Overlays lie 3 units under the surface, and the box must hold them.
-    if (graph.ShowContour || graph.ShowVector || graph.ShowColormap) graph.MinZ -= 3.0;
+    // The box must hold the overlays too.
+    if (hasOverlays(graph)) graph.MinZ -= overlayDepth;
 }
 
 void boxPoints(Cls9& graph, const data::ClsData& data) {

@@ -1,9 +1,8 @@
-#include <array>
-
 #include "base/failure.h"
 #include "graphs/color_fill.h"
 #include "graphs/emitters.h"
 #include "graphs/graph.h"
+#include "graphs/surface_overlays.h"
 #include "scene/material.h"
 
 namespace tessaplot::graphs {
@@ -11,7 +10,9 @@ namespace tessaplot::graphs {
 namespace {
 
 /// Kinds that no command makes: colour maps whose nodes are never filled.
-constexpr std::array blankMap{2, 12, 21, 22};
+bool isBlankMap(int type) {
+    return type == 2 || type == 12 || type == 21 || type == 22;
+}
 
 bool isPlanPlot(int type) {
     return type >= graph_type::colorMap && type <= graph_type::nodesOnly;
@@ -30,59 +31,44 @@ void emitMaterial(gl::DisplayList& list, int type) {
     material.SetMaterial(list, type);
 }
 
+void emitBlankMap(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
+    requireGrid(context.data, graph.StepU, graph.StepV);
+    emitColorMap(list, graph, context, NodeTable(graph.StepU, graph.StepV));
+}
+
 void emitKind(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
+    const auto nodes = [&] { return NodeTable(context.data, graph.StepU, graph.StepV); };
     switch (graph.GraphType) {
         case graph_type::table:
-            emitTable(list, graph, context);
-            break;
+            return emitTable(list, graph, context);
         case graph_type::point:
-            emitPoint(list, graph, context);
-            break;
+            return emitPoint(list, graph, context);
         case graph_type::surface:
-            emitSurface(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
-            break;
+            return emitSurface(list, graph, context, nodes());
         case graph_type::colorMap:
-            emitColorMap(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
-            break;
-        case blankMap[0]:
-        case blankMap[1]:
-        case blankMap[2]:
-        case blankMap[3]:
-            requireGrid(context.data, graph.StepU, graph.StepV);
-            emitColorMap(list, graph, context, NodeTable(graph.StepU, graph.StepV));
-            break;
+            return emitColorMap(list, graph, context, nodes());
         case graph_type::contour:
-            emitContourPlot(list, graph, context);
-            break;
+            return emitContourPlot(list, graph, context);
         case graph_type::vector:
-            emitVectors(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
-            break;
+            return emitVectors(list, graph, context, nodes());
         case graph_type::contour3D:
-            emitContour3D(list, graph, context);
-            break;
+            return emitContour3D(list, graph, context);
         case graph_type::delaunay:
-            emitTriangles(list, graph, context);
-            break;
+            return emitTriangles(list, graph, context);
         case graph_type::vertexModel:
-            emitVertexModel(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
-            break;
+            return emitVertexModel(list, graph, context, nodes());
         case graph_type::gridModel:
-            emitGridModel(list, graph, context, NodeTable(context.data, graph.StepU, graph.StepV));
-            break;
+            return emitGridModel(list, graph, context, nodes());
         case graph_type::scatter4D:
-            emitScatter4D(list, graph, context);
-            break;
+            return emitScatter4D(list, graph, context);
         case graph_type::vector4D:
-            emitVectors4D(list, graph, context);
-            break;
+            return emitVectors4D(list, graph, context);
         case graph_type::slice4D:
-            emitSlices4D(list, graph, context);
-            break;
+            return emitSlices4D(list, graph, context);
         case graph_type::isoSurface:
-            emitIsoSurface(list, graph, context);
-            break;
+            return emitIsoSurface(list, graph, context);
         default:
-            break;
+            if (isBlankMap(graph.GraphType)) emitBlankMap(list, graph, context);
     }
 }
 
@@ -94,7 +80,7 @@ void Cls9::Draw(gl::DisplayList& list, const GraphContext& context) {
     GetBox(context);
     if (isPlanPlot(GraphType)) requireGrid(context.data, StepU, StepV);
     // The fill of a surface runs over its true range, without the room that the box keeps for overlays.
-    if (GraphType == graph_type::surface && (ShowContour || ShowVector || ShowColormap)) MinZ += 3.0;
+    if (GraphType == graph_type::surface && hasOverlays(*this)) MinZ += overlayDepth;
     if (StepU == 0) StepU = 1;
     if (StepV == 0) StepV = 1;
     emitMaterial(list, Material);

@@ -14,7 +14,7 @@ class GridLines {
 
     void begin() {
         list_.glBegin(GL_LINES);
-        list_.glColor3d(color_.r, color_.g, color_.b);
+        emitColor(list_, color_);
     }
     void vertex(int i, int j) {
         const Node& node = nodes_(i, j);

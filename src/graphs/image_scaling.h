@@ -6,6 +6,7 @@
 
 namespace tessaplot::graphs {
 
+/// Pixels across and down.
 struct ImageSize {
     int width = 0;
     int height = 0;

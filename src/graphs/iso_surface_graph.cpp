@@ -26,8 +26,7 @@ void emitIsoSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& cont
     const geometry::IsoMesh mesh = isoSurfaceOf(graph, context);
     makeRoom(list, 8 * mesh.triangles.size(), 19 * mesh.triangles.size());
     list.glPushMatrix();
-    const Rgb color = surfaceColor(graph, context.data);
-    list.glColor3d(color.r, color.g, color.b);
+    emitColor(list, surfaceColor(graph, context.data));
     for (const auto& triangle : mesh.triangles) {
         list.glBegin(GL_TRIANGLES);
         for (const std::uint32_t corner : triangle) {

@@ -50,10 +50,6 @@ std::optional<LegendRange> legendRange(const Cls9& graph, const data::ClsData& d
     return LegendRange{data.MinC, data.MaxC};
 }
 
-void emitColor(gl::DisplayList& list, const Rgb& color) {
-    list.glColor3d(color.r, color.g, color.b);
-}
-
 /// A piece of the bar.
 struct Piece {
     double bottom;
@@ -91,7 +87,7 @@ void emitRampBar(gl::DisplayList& list, Cls9& graph, const LegendRange& range) {
         rampColor(graph, percent / 100 * span + range.lower, range.lower, span, color);
         return color;
     };
-    const auto heightAt = [](double percent) { return percent * 0.4 + barBottom; };
+    const auto heightAt = [](double percent) { return percent * (barHeight / 100) + barBottom; };
     for (int i = 0; i + 1 < graph.ColorNum; ++i) {
         const double low = graph.ColorPos(i);
         const double high = graph.ColorPos(i + 1);

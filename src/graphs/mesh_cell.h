@@ -20,6 +20,11 @@ struct Place {
     int j;
 };
 
+/// How many cells a graph draws of its grid.
+inline std::size_t cellCount(const Cls9& graph) {
+    return static_cast<std::size_t>(graph.StepU) * static_cast<std::size_t>(graph.StepV);
+}
+
 /// The corners of cell (i, j) in the order in which they are drawn.
 constexpr std::array<Place, 4> cornersOf(int i, int j) {
     return {{{i, j}, {i + 1, j}, {i + 1, j + 1}, {i, j + 1}}};

@@ -2,11 +2,6 @@
 
 namespace tessaplot::graphs {
 
-void requireGrid(const data::ClsData& data, int lastI, int lastJ) {
-    for (const data::Array* array : {&data.Reg3DX, &data.Reg3DY, &data.Reg3DZ})
-        static_cast<void>((*array)(lastI, lastJ));
-}
-
 namespace {
 
 int checkedLastI(const data::ClsData& data, int lastI, int lastJ) {
@@ -15,6 +10,11 @@ int checkedLastI(const data::ClsData& data, int lastI, int lastJ) {
 }
 
 }  // namespace
+
+void requireGrid(const data::ClsData& data, int lastI, int lastJ) {
+    for (const data::Array* array : {&data.Reg3DX, &data.Reg3DY, &data.Reg3DZ})
+        static_cast<void>((*array)(lastI, lastJ));
+}
 
 NodeTable::NodeTable(const data::ClsData& data, int lastI, int lastJ)
     : GridTable(checkedLastI(data, lastI, lastJ), lastJ) {

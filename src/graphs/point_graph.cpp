@@ -44,8 +44,7 @@ void unrollAngles(scene::Cls2& marker, data::DataKind kind) {
 
 void endFlatDrawing(gl::DisplayList& list) {
     list.glEnable(GL_LIGHTING);
-    list.glDisable(GL_LINE_SMOOTH);
-    list.glDisable(GL_BLEND);
+    endSmoothLines(list);
 }
 
 }  // namespace

@@ -7,31 +7,6 @@
 
 namespace tessaplot::graphs {
 
-SliceFill::SliceFill(Cls9& graph)
-    : graph_(graph), first_(ColorToRGB(graph.FirstColor)), second_(ColorToRGB(graph.SecondColor)) {
-    if (graph.FillStyle == fill_style::colorMap) loadNamedRamp(graph);
-}
-
-Rgb SliceFill::colorOf(double value) const {
-    // A value between two layers may pass both by a rounding, and a ramp ends exactly at its ends.
-    const double within = std::clamp(value, graph_.MInv, std::max(graph_.MInv, graph_.MaxV));
-    const double span = nonZeroSpan(graph_.MaxV - graph_.MInv);
-    Rgb color;
-    switch (graph_.FillStyle) {
-        case fill_style::alongY:
-        case fill_style::alongX:
-        case fill_style::alongZ:
-            return gradientColor(within, graph_.MInv, span, first_, second_);
-        case fill_style::single:
-            return second_;
-        case fill_style::colorMap:
-            rampColor(graph_, within, graph_.MInv, span, color);
-            return color;
-        default:
-            return color;
-    }
-}
-
 namespace {
 
 /// Emits the cells of a slice.
@@ -61,7 +36,7 @@ class SliceCells {
         for (const Place& corner : corners) {
             const Rgb& color = colors_(corner.i, corner.j);
             const Node& at = plane_(corner.i, corner.j).at;
-            list_.glColor3d(color.r, color.g, color.b);
+            emitColor(list_, color);
             emitUpright(list_, drawing_.context.scene, at.x, at.y, at.z);
         }
         list_.glEnd();
@@ -81,10 +56,33 @@ void beginBehindLines(gl::DisplayList& list) {
 
 }  // namespace
 
+SliceFill::SliceFill(Cls9& graph)
+    : graph_(graph), first_(ColorToRGB(graph.FirstColor)), second_(ColorToRGB(graph.SecondColor)) {
+    if (graph.FillStyle == fill_style::colorMap) loadNamedRamp(graph);
+}
+
+Rgb SliceFill::colorOf(double value) const {
+    // A value between two layers may pass both by a rounding, and a ramp ends exactly at its ends.
+    const double within = std::clamp(value, graph_.MInv, std::max(graph_.MInv, graph_.MaxV));
+    const double span = nonZeroSpan(graph_.MaxV - graph_.MInv);
+    Rgb color;
+    switch (graph_.FillStyle) {
+        case fill_style::alongY:
+        case fill_style::alongX:
+        case fill_style::alongZ:
+            return gradientColor(within, graph_.MInv, span, first_, second_);
+        case fill_style::single:
+            return second_;
+        case fill_style::colorMap:
+            rampColor(graph_, within, graph_.MInv, span, color);
+            return color;
+        default:
+            return color;
+    }
+}
+
 void emitSliceFill(gl::DisplayList& list, const SliceDrawing& drawing, const SliceFill& fill) {
-    const std::size_t nodes =
-        static_cast<std::size_t>(drawing.plane.countU()) * static_cast<std::size_t>(drawing.plane.countV());
-    makeRoom(list, 11 * nodes, 28 * nodes);
+    makeRoom(list, 11 * drawing.plane.nodeCount(), 28 * drawing.plane.nodeCount());
     list.glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
     list.glShadeModel(GL_SMOOTH);
     const bool bearsLines = drawing.slice.ShowCont || drawing.slice.ShowVect;

@@ -3,13 +3,11 @@
 #include "base/failure.h"
 #include "graphs/irregular_marks.h"
 #include "graphs/over_scale.h"
+#include "graphs/surface_fill.h"
 
 namespace tessaplot::graphs {
 
 namespace {
-
-/// What the contours of every slice have in common: each level has the slice's own colour.
-constexpr int oneColor = 4;
 
 /// The layers across an axis over the range that the graph found.
 LayerRow layersAcross(const VolumeGrid& volume, VolumeAxis axis, double minimum, double maximum) {
@@ -17,8 +15,8 @@ LayerRow layersAcross(const VolumeGrid& volume, VolumeAxis axis, double minimum,
     const double spacing = (maximum - minimum) / last;
     VolumePlace end{};
     along(end, axis) = last;
-    Node first = volume({}).at;
-    Node other = volume(end).at;
+    const Node first = volume({}).at;
+    const Node other = volume(end).at;
     const bool runsDown = along(first, axis) > along(other, axis);
     return runsDown ? LayerRow{maximum, -spacing, last} : LayerRow{minimum, spacing, last};
 }
@@ -78,8 +76,8 @@ class Slices {
                              second.spacing,
                              (limits.firstU - 1) * first.spacing + first.start,
                              (limits.firstV - 1) * second.spacing + second.start};
-        const ContourStyle style{drawing.slice.ContLevels, oneColor, drawing.slice.ContColor, drawing.slice.ContColor,
-                                 graph_.LineWidth};
+        const ContourStyle style{drawing.slice.ContLevels, fill_style::single, drawing.slice.ContColor,
+                                 drawing.slice.ContColor, graph_.LineWidth};
         emitContourLines(list_, graph_, context_, grid, position, style, drawing.direction.contourPass);
     }
 

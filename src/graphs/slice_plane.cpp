@@ -52,7 +52,7 @@ SlicePlane::SlicePlane(const VolumeGrid& volume, const SliceDirection& direction
                        const SliceLayer& layer, const SliceLimits& limits)
     : countU_(std::max(limits.lastU - limits.firstU + 1, 0)),
       countV_(std::max(limits.lastV - limits.firstV + 1, 0)),
-      nodes_(countU_, countV_) {
+      nodes_(countU_, countV_) {  // One more than needed along both axes, so that there may be none.
     for (int u = 0; u < countU_; ++u) {
         for (int v = 0; v < countV_; ++v) {
             VolumePlace place{};

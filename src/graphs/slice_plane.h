@@ -49,6 +49,7 @@ class SlicePlane {
     /// Nodes along both axes; none if the limits are in the wrong order.
     int countU() const { return countU_; }
     int countV() const { return countV_; }
+    std::size_t nodeCount() const { return static_cast<std::size_t>(countU_) * static_cast<std::size_t>(countV_); }
     /// Node (u, v) of the part that is drawn, from 0. One without data has the value that marks such nodes.
     const VolumeNode& operator()(int u, int v) const { return nodes_(u, v); }
 

@@ -19,11 +19,9 @@ void emitSliceVectors(gl::DisplayList& list, const SliceDrawing& drawing) {
     const SlicePlane& plane = drawing.plane;
     const auto valueAt = [&](int u, int v) { return plane(u, v).value; };
     const auto vertex = [&](const Node& at) { emitUpright(list, drawing.context.scene, at.x, at.y, at.z); };
-    makeRoom(list, 4 * static_cast<std::size_t>(plane.countU()) * static_cast<std::size_t>(plane.countV()),
-             7 * static_cast<std::size_t>(plane.countU()) * static_cast<std::size_t>(plane.countV()));
+    makeRoom(list, 4 * plane.nodeCount(), 7 * plane.nodeCount());
     beginSmoothLines(list, drawing.graph);
-    const Rgb color = vectorColor(drawing);
-    list.glColor3f(static_cast<float>(color.r), static_cast<float>(color.g), static_cast<float>(color.b));
+    emitFloatColor(list, vectorColor(drawing));
     for (int u = 1; u + 1 < plane.countU(); ++u) {
         for (int v = 1; v + 1 < plane.countV(); ++v) {
             Gradient gradient;

@@ -40,9 +40,9 @@ const Rgb& SurfaceFill::overlayColor(const Node& node, double value) {
     return color_;
 }
 
-void emitShadeModel(gl::DisplayList& list, int smoothness) {
-    if (smoothness == 1) list.glShadeModel(GL_FLAT);
-    if (smoothness == 2 || smoothness == 3) list.glShadeModel(GL_SMOOTH);
+void emitShadeModel(gl::DisplayList& list, int wanted) {
+    if (wanted == smoothness::flat) list.glShadeModel(GL_FLAT);
+    if (wanted == smoothness::smooth || wanted == smoothness::smoothest) list.glShadeModel(GL_SMOOTH);
 }
 
 }  // namespace tessaplot::graphs

@@ -14,6 +14,26 @@ inline constexpr int single = 4;  ///< `SecondColor`.
 inline constexpr int colorMap = 5;
 }  // namespace fill_style
 
+/// What `Show` of a surface means.
+namespace shape {
+inline constexpr int points = 1;
+inline constexpr int lines = 2;
+inline constexpr int filled = 3;
+}  // namespace shape
+
+/// What `Smoothness` of a surface means.
+namespace smoothness {
+inline constexpr int flat = 1;
+inline constexpr int smooth = 2;
+inline constexpr int smoothest = 3;
+}  // namespace smoothness
+
+/// What `TexMode` of a surface means: whether its image takes the place of the fill or is laid over it.
+namespace texture_mode {
+inline constexpr int alone = 1;
+inline constexpr int withFill = 2;
+}  // namespace texture_mode
+
 /// The vertex colours of one drawing. The colour runs on from vertex to vertex, black before the first: a fill style of
 /// no meaning keeps it, and a value outside the ramp repeats it, dimmed.
 class SurfaceFill {
@@ -46,6 +66,6 @@ class SurfaceFill {
 };
 
 /// Sets the shade model for `Smoothness`; numbers that have no meaning set none.
-void emitShadeModel(gl::DisplayList& list, int smoothness);
+void emitShadeModel(gl::DisplayList& list, int wanted);
 
 }  // namespace tessaplot::graphs

@@ -9,14 +9,10 @@ namespace tessaplot::graphs {
 
 namespace {
 
-constexpr int smoothest = 3;
-constexpr int textureAlone = 1;
-constexpr int textureWithFill = 2;
-
 void emitPolygonMode(gl::DisplayList& list, int show) {
-    if (show == 1) list.glPolygonMode(GL_FRONT_AND_BACK, GL_POINT);
-    if (show == 2) list.glPolygonMode(GL_FRONT_AND_BACK, GL_LINE);
-    if (show == 3) list.glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    if (show == shape::points) list.glPolygonMode(GL_FRONT_AND_BACK, GL_POINT);
+    if (show == shape::lines) list.glPolygonMode(GL_FRONT_AND_BACK, GL_LINE);
+    if (show == shape::filled) list.glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
 }
 
 void beginTexture(gl::DisplayList& list, const Cls9& graph, const GraphContext& context) {
@@ -55,9 +51,9 @@ class SurfaceCells {
         const Colors colors = colorsOf(corners);
         list_.glBegin(GL_QUADS);
         if (!isHole(nodes_, corners)) {
-            if (graph_.Smoothness == smoothest)
+            if (graph_.Smoothness == smoothness::smoothest)
                 emitRoundedCorners(corners, colors);
-            else if (graph_.Smoothness == 1 || graph_.Smoothness == 2)
+            else if (graph_.Smoothness == smoothness::flat || graph_.Smoothness == smoothness::smooth)
                 emitPlaneCorners(normals_.ofCell(i, j), corners, colors);
         }
         list_.glEnd();
@@ -96,18 +92,18 @@ class SurfaceCells {
     void emitNormal(const Direction& normal) { list_.glNormal3d(normal.x, normal.y, normal.z); }
 
     void emitColorAndVertex(const Place& at, const Rgb& color) {
-        emitColor(color);
+        emitFill(color);
         const Node& node = nodes_(at.i, at.j);
         emitUpright(list_, context_.scene, node.x, node.y, node.z);
     }
 
-    void emitColor(const Rgb& color) {
-        const bool blended = graph_.ShowTex ? graph_.TexMode == textureWithFill : graph_.ShowTrans;
+    void emitFill(const Rgb& color) {
+        const bool blended = graph_.ShowTex ? graph_.TexMode == texture_mode::withFill : graph_.ShowTrans;
         if (blended)
             list_.glColor4d(color.r, color.g, color.b, graph_.TransAlpha);
         else if (!graph_.ShowTex)
-            list_.glColor3d(color.r, color.g, color.b);
-        else if (graph_.TexMode == textureAlone)
+            emitColor(list_, color);
+        else if (graph_.TexMode == texture_mode::alone)
             list_.glColor3d(1, 1, 1);
     }
 
@@ -133,15 +129,10 @@ void emitScatteredPoints(gl::DisplayList& list, const GraphContext& context) {
     }
 }
 
-void makeRoomForCells(gl::DisplayList& list, const Cls9& graph) {
-    const std::size_t cells = static_cast<std::size_t>(graph.StepU) * static_cast<std::size_t>(graph.StepV);
-    makeRoom(list, 18 * cells, 49 * cells);
-}
-
 }  // namespace
 
 void emitSurface(gl::DisplayList& list, Cls9& graph, const GraphContext& context, const NodeTable& nodes) {
-    makeRoomForCells(list, graph);
+    makeRoom(list, 18 * cellCount(graph), 49 * cellCount(graph));
     emitPolygonMode(list, graph.Show);
     beginTexture(list, graph, context);
     beginTransparency(list, graph);

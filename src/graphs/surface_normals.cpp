@@ -11,10 +11,6 @@ Direction operator+(const Direction& a, const Direction& b) {
     return {a.x + b.x, a.y + b.y, a.z + b.z};
 }
 
-Direction between(const Node& from, const Node& to) {
-    return {to.x - from.x, to.y - from.y, to.z - from.z};
-}
-
 double lengthOf(const Direction& v) {
     return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z);
 }
@@ -71,8 +67,8 @@ SurfaceNormals::SurfaceNormals(const NodeTable& nodes, int cellsU, int cellsV, c
 void SurfaceNormals::fillCells(const NodeTable& nodes) {
     for (int i = 0; i < cellsU_; ++i)
         for (int j = 0; j < cellsV_; ++j)
-            cells_(i, j) =
-                crossNormal(between(nodes(i + 1, j + 1), nodes(i, j)), between(nodes(i, j + 1), nodes(i + 1, j)));
+            cells_(i, j) = crossNormal(directionBetween(nodes(i + 1, j + 1), nodes(i, j)),
+                                       directionBetween(nodes(i, j + 1), nodes(i + 1, j)));
 }
 
 void SurfaceNormals::sumCorners() {

@@ -12,6 +12,11 @@ struct Direction {
     double z = 0;
 };
 
+/// The way from one node to another.
+constexpr Direction directionBetween(const Node& from, const Node& to) {
+    return {to.x - from.x, to.y - from.y, to.z - from.z};
+}
+
 /// The cross product of `a` and `b` at length 1. A product of length 0 stays so; one that is no finite number is 0.
 Direction crossNormal(const Direction& a, const Direction& b);
 

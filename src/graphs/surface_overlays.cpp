@@ -1,7 +1,6 @@
 #include "graphs/surface_overlays.h"
 
 #include "graphs/contour_lines.h"
-#include "graphs/flat_drawing.h"
 #include "graphs/gradient_arrows.h"
 #include "graphs/make_room.h"
 #include "graphs/mesh_cell.h"
@@ -39,7 +38,7 @@ class ColorPlane {
     void emitCorner(const Place& at, const Rgb& color) {
         const Direction& normal = normals_.ofNode(at.i, at.j);
         list_.glNormal3d(normal.x, normal.y, normal.z);
-        list_.glColor3d(color.r, color.g, color.b);
+        emitColor(list_, color);
         const Node& node = nodes_(at.i, at.j);
         emitUpright(list_, context_.scene, node.x, overlayHeight(graph_), node.z);
     }
@@ -56,8 +55,7 @@ class ColorPlane {
 
 void emitColorPlane(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes,
                     const SurfaceNormals& normals, SurfaceFill& fill) {
-    const std::size_t cells = static_cast<std::size_t>(graph.StepU) * static_cast<std::size_t>(graph.StepV);
-    makeRoom(list, 14 * cells, 37 * cells);
+    makeRoom(list, 14 * cellCount(graph), 37 * cellCount(graph));
     ColorPlane plane(list, graph, context, nodes, normals, fill);
     for (int i = 0; i < graph.StepU; ++i)
         for (int j = 0; j < graph.StepV; ++j)
@@ -65,9 +63,8 @@ void emitColorPlane(gl::DisplayList& list, const Cls9& graph, const GraphContext
 }
 
 void emitValueContours(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
-    constexpr int ownColor = 4;
     const auto valueAt = [&](int i, int j) { return context.data.Reg3DC(i, j); };
-    const ContourStyle black{graph.ContourLevel, ownColor, 0, 0, graph.LineWidth};
+    const ContourStyle black{graph.ContourLevel, fill_style::single, 0, 0, graph.LineWidth};
     emitContourLines(list, graph, context, surfaceGrid(graph, context, valueAt), overlayHeight(graph), black,
                      ContourPass::AcrossZ);
 }
@@ -77,20 +74,8 @@ void emitValueArrows(gl::DisplayList& list, const Cls9& graph, const GraphContex
     const auto vertex = [&](const PlanePoint& at, double height) {
         emitUpright(list, context.scene, at.y, height, at.x);
     };
-    const ArrowHeights heights{overlayHeight(graph), overlayHeight(graph)};
-    makeRoomForArrows(list, graph);
-    beginFlatDrawing(list);
-    list.glColor3f(0, 0, 0);
-    for (int i = 1; i < graph.StepU; ++i) {
-        for (int j = 1; j < graph.StepV; ++j) {
-            Gradient gradient;
-            const Node& node = nodes(i, j);
-            if (isMissing(node.x) || isMissing(node.z) || !gradientAt(valueAt, i, j, gradient)) continue;
-            emitPlaneArrow(list, {node.z, node.x}, {node.z + gradient.alongU, node.x + gradient.alongV}, heights,
-                           vertex);
-        }
-    }
-    endFlatLines(list);
+    const Rgb black;
+    emitGradientArrows(list, graph, nodes, black, valueAt, {overlayHeight(graph), overlayHeight(graph)}, vertex);
 }
 
 }  // namespace tessaplot::graphs

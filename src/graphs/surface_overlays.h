@@ -9,6 +9,11 @@ namespace tessaplot::graphs {
 /// How far below the surface its overlays lie.
 inline constexpr double overlayDepth = 3.0;
 
+/// True if a surface shows what `emitColorPlane`, `emitValueContours` or `emitValueArrows` emit.
+inline bool hasOverlays(const Cls9& graph) {
+    return graph.ShowContour || graph.ShowVector || graph.ShowColormap;
+}
+
 /// The cells of a surface, flat below it, in the colours of its fill; lit as the surface is.
 void emitColorPlane(gl::DisplayList& list, const Cls9& graph, const GraphContext& context, const NodeTable& nodes,
                     const SurfaceNormals& normals, SurfaceFill& fill);

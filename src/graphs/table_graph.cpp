@@ -1,5 +1,6 @@
 #include "graphs/color_fill.h"
 #include "graphs/emitters.h"
+#include "graphs/flat_drawing.h"
 #include "graphs/over_scale.h"
 
 namespace tessaplot::graphs {
@@ -23,8 +24,7 @@ void emitMarker(gl::DisplayList& list, scene::Cls2& cell, const GraphContext& co
 }  // namespace
 
 void emitTable(gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
-    const Rgb color = ColorToRGB(graph.LineColor);
-    list.glColor3d(color.r, color.g, color.b);
+    emitColor(list, ColorToRGB(graph.LineColor));
     for (int j = 0; j < graph.StepV; ++j) {
         list.glBegin(GL_LINES);
         emitVertex(list, graph.VertTab3D(0, j), context);
@@ -33,9 +33,7 @@ void emitTable(gl::DisplayList& list, Cls9& graph, const GraphContext& context) 
     }
     for (int j = 0; j <= graph.StepV; ++j)
         emitMarker(list, graph.VertTab3D(0, j), context);
-    list.glDisable(GL_LINE_SMOOTH);
-    list.glDisable(GL_BLEND);
-    list.glEnable(GL_LIGHTING);
+    endFlatLines(list);
 }
 
 }  // namespace tessaplot::graphs

@@ -8,6 +8,7 @@
 #include "base/failure.h"
 #include "base/file.h"
 #include "graphs/image_scaling.h"
+#include "graphs/letter_case.h"
 
 namespace tessaplot::graphs {
 
@@ -19,10 +20,6 @@ using base::FailureCode;
 
 constexpr int largestSide = 256;
 constexpr std::int64_t channels = 3;
-
-constexpr char upperCase(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
 
 /// The last three letters of a name, in capitals.
 std::string kindOf(const std::string& name) {
@@ -167,22 +164,6 @@ bool Cls15::LoadGLTextures(gl::DisplayList& list, const std::string& name, const
     list.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
     list.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
     return true;
-}
-
-TextureCache::Stamp TextureCache::stampOf(const fs::path& path) {
-    std::error_code ignored;
-    return {fs::last_write_time(path, ignored), fs::file_size(path, ignored)};
-}
-
-TextureImagePtr TextureCache::find(const fs::path& path) const {
-    const auto entry = std::ranges::find(entries_, path, &Entry::path);
-    if (entry == entries_.end() || entry->stamp != stampOf(path)) return nullptr;
-    return entry->image.lock();
-}
-
-void TextureCache::keep(const fs::path& path, const TextureImagePtr& image) {
-    std::erase_if(entries_, [&](const Entry& entry) { return entry.path == path || entry.image.expired(); });
-    entries_.push_back({path, stampOf(path), image});
 }
 
 }  // namespace tessaplot::graphs

@@ -100,8 +100,7 @@ void emitVectors4D(gl::DisplayList& list, const Cls9& graph, const GraphContext&
     volume.requireMarkable();
     makeRoom(list, 9 * volume.nodeCount(), 15 * volume.nodeCount());
     beginSmoothLines(list, graph);
-    const Rgb color = ColorToRGB(graph.VectorColor);
-    list.glColor3f(static_cast<float>(color.r), static_cast<float>(color.g), static_cast<float>(color.b));
+    emitFloatColor(list, ColorToRGB(graph.VectorColor));
     GradientArrows arrows(list, graph, context, volume);
     arrows.emit(innerBlock(volume.last()));
     for (const VolumeAxis axis : {VolumeAxis::Z, VolumeAxis::Y, VolumeAxis::X}) {

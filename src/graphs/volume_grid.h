@@ -15,6 +15,9 @@ enum class VolumeAxis : std::size_t { X, Y, Z };
 constexpr double& along(Node& place, VolumeAxis axis) {
     return axis == VolumeAxis::X ? place.z : axis == VolumeAxis::Y ? place.x : place.y;
 }
+constexpr double along(const Node& place, VolumeAxis axis) {
+    return axis == VolumeAxis::X ? place.z : axis == VolumeAxis::Y ? place.x : place.y;
+}
 
 /// Indices of a node, by axis.
 using VolumePlace = std::array<int, 3>;
@@ -54,7 +57,6 @@ class VolumeGrid {
         const std::size_t n = offset(place);
         return {{y_[n], z_[n], x_[n]}, value_[n]};
     }
-    double value(const VolumePlace& place) const { return value_[offset(place)]; }
 
  private:
     std::size_t offset(const VolumePlace& place) const {
