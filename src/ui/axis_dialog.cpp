@@ -16,6 +16,7 @@ namespace {
 
 using scene::Cls3;
 
+/// The controls of one of the three panels.
 struct PanelControls {
     const char* frame;
     const char* check;
@@ -31,11 +32,13 @@ constexpr std::array<PanelControls, 3> panels{{
     {"YZ Panel", "Check4", "Picture3", "Combo3", &Cls3::ShowYZPanel, &Cls3::YZPanelColor, &Cls3::YZPanelMaterial},
 }};
 
+/// The lines of a grid that run in one direction.
 struct GridFamily {
     const char* check;
     const char* caption;
     bool Cls3::*show;
 };
+/// The controls of the grid on one of the panels.
 struct GridControls {
     const char* frame;
     GridFamily first;
@@ -61,6 +64,7 @@ constexpr std::array<GridControls, 3> grids{{
      &Cls3::YZGridColor},
 }};
 
+/// A text box that stands for a property.
 template <class Value>
 struct Box {
     const char* name;
@@ -73,29 +77,18 @@ constexpr std::array<Box<int Cls3::*>, 3> intervals{{{"Text1", "X Axis Intervals
 constexpr std::array<Box<std::string Cls3::*>, 3> titles{{{"Text4", "X Axis Title", &Cls3::TitleX},
                                                           {"Text5", "Y Axis Title", &Cls3::TitleY},
                                                           {"Text6", "Z Axis Title", &Cls3::TitleZ}}};
-constexpr std::array<Box<double data::Scaling::*>, 4> ratios{{{"Text7", "", &data::Scaling::ScaleRatioX},
-                                                              {"Text8", "", &data::Scaling::ScaleRatioY},
-                                                              {"Text9", "", &data::Scaling::ScaleRatioZ},
-                                                              {"Text10", "", &data::Scaling::ZoomZ}}};
-constexpr std::array scaleModes{"Option3", "Option4", "Option5"};
-constexpr int customScale = 3;
 constexpr std::array fontButtons{"Command3", "Command4"};
-
-/// A volume ties its height to the two other ratios; the height of a surface has a zoom of its own.
-bool counts(double data::Scaling::*ratio, data::DataKind kind) {
-    if (ratio == &data::Scaling::ScaleRatioZ) return data::isVolume(kind);
-    if (ratio == &data::Scaling::ZoomZ) return !data::isVolume(kind);
-    return true;
-}
 
 }  // namespace
 
-frmF3::frmF3(core::AppState& state) : Form("frmF3", "Axis Properties"), state_(state) {
+frmF3::frmF3(core::AppState& state) : Form("frmF3", "Axis Properties"), state_(state), scales_(*this, state) {
     nameButtons("Command1", "Command2");
     addFramePage();
     addPanelsPage();
     addGridsPage();
-    addScalesPage();
+    for (Control& control : scales_.controls())
+        add(std::move(control));
+    addPage(ScalePage::page());
     enableWhatCounts();
 }
 
@@ -142,28 +135,6 @@ void frmF3::addGridsPage() {
     addPage(std::move(page));
 }
 
-void frmF3::addScalesPage() {
-    const bool flat = state_.scene.SceneMode == scene::mode2D;
-    constexpr std::array captions{"Square", "Equal", "Custom"};
-    for (std::size_t i = 0; i < captions.size(); ++i)
-        add(optionButton(scaleModes[i], captions[i], state_.scaling.ScaleMode == static_cast<int>(i) + 1));
-    add(label("Label1", flat ? "X:Y=" : "X:Y:Z="));
-    add(label("Label16", ":"));
-    add(label("Label17", ":"));
-    add(label("Label18", "Zoom Z:"));
-    for (const auto& box : ratios)
-        add(textBox(box.name, box.caption, boxText(state_.scaling.*box.member)));
-    for (const char* third : {"Label17", "Text9"})
-        control(third).visible = !flat;
-    addPage({"Scales",
-             {{"Scales",
-               {{"Option3"},
-                {"Option4"},
-                {"Option5"},
-                {"Label1", "Text7", "Label16", "Text8", "Label17", "Text9"},
-                {"Label18", "Text10"}}}}});
-}
-
 /// True if the frame of panels and labels is what the axis shows; all but the style belongs to it.
 bool frmF3::framed() const {
     return control("Check1").on && control("Option1").on;
@@ -187,11 +158,7 @@ void frmF3::enableWhatCounts() {
     for (const GridControls& grid : grids)
         for (const char* name : {grid.first.check, grid.second.check, grid.picture})
             control(name).enabled = frame;
-    const bool custom = chosenScaleMode() == customScale;
-    for (const char* label : {"Label1", "Label16", "Label17", "Label18"})
-        control(label).enabled = custom;
-    for (const auto& box : ratios)
-        control(box.name).enabled = custom;
+    scales_.enableWhatCounts();
 }
 
 void frmF3::changed(Control&) {
@@ -206,33 +173,6 @@ void frmF3::pressed(Control& control) {
         platform::FontChoice& font = fonts_[control.name == fontButtons[0] ? 0 : 1];
         font = desktop.pickFont(font).value_or(font);
     }
-}
-
-int frmF3::chosenScaleMode() const {
-    for (std::size_t i = 0; i < scaleModes.size(); ++i)
-        if (control(scaleModes[i]).on) return static_cast<int>(i) + 1;
-    return state_.scaling.ScaleMode;
-}
-
-bool frmF3::readScaling(data::Scaling& scaling) {
-    scaling.ScaleMode = chosenScaleMode();
-    for (const auto& box : ratios) {
-        Control& text = control(box.name);
-        if (!text.visible) continue;
-        if (scaling.ScaleMode != customScale) {
-            // Kept for later, but of no effect now: no fault is told.
-            scaling.*box.member = numberIn(text.text).value_or(scaling.*box.member);
-            continue;
-        }
-        const std::optional<double> value = readNumber(text, state_.desktop);
-        if (!value) return false;
-        if (*value <= 0 && counts(box.member, state_.panel.kind())) {
-            tell(state_.desktop, "Error", "The scale ratios and the zoom of Z must be larger than 0.");
-            return false;
-        }
-        scaling.*box.member = *value;
-    }
-    return true;
 }
 
 void frmF3::copyPanels(Cls3& axis) const {
@@ -271,7 +211,7 @@ std::optional<frmF3::Settings> frmF3::readSettings() {
     Settings wanted{state_.TheAxis, state_.scaling, control("Check11").on};
     wanted.axis.Show = control("Check1").on;
     wanted.axis.AxisStyle = control("Option1").on ? 1 : 2;
-    if (!readScaling(wanted.scaling)) return std::nullopt;
+    if (!scales_.read(wanted.scaling)) return std::nullopt;
     if (framed()) {
         copyPanels(wanted.axis);
         copyGrids(wanted.axis);

@@ -5,6 +5,7 @@
 
 #include "core/app_state.h"
 #include "ui/form.h"
+#include "ui/scale_page.h"
 
 namespace tessaplot::ui {
 
@@ -33,13 +34,10 @@ class frmF3 : public Form {
     void addFramePage();
     void addPanelsPage();
     void addGridsPage();
-    void addScalesPage();
 
     void enableWhatCounts();
     bool framed() const;
     std::optional<Settings> readSettings();
-    int chosenScaleMode() const;
-    bool readScaling(data::Scaling& scaling);
     void copyPanels(scene::Cls3& axis) const;
     void copyGrids(scene::Cls3& axis) const;
     bool copyIntervals(scene::Cls3& axis);
@@ -49,6 +47,7 @@ class frmF3 : public Form {
     data::ClsData filledAnew(data::Scaling& scaling) const;
 
     core::AppState& state_;
+    ScalePage scales_;
     std::array<platform::FontChoice, 2> fonts_;
 };
 

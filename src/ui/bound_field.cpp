@@ -57,7 +57,7 @@ void setNumber(Cls9& graph, const Property& property, double value) {
 
 bool storeText(const Field& field, Control& box, Cls9& graph, const platform::Desktop& desktop) {
     if (const auto* text = std::get_if<std::string Cls9::*>(&field.property)) {
-        if (box.text.empty()) tell(desktop, "Note", "Input all parameters please.");
+        if (box.text.empty()) tellMissingEntry(desktop);
         graph.*(*text) = box.text;
         return !box.text.empty();
     }

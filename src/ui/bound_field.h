@@ -22,6 +22,7 @@ enum class Entries {
     Shapes,     ///< Points, lines, filled.
 };
 
+/// Which numbers a text box takes.
 enum class NumberRule { Any, Positive };
 
 /// A control bound to a property.

@@ -194,49 +194,49 @@ bool ColorMapEditor::tellIf(bool refused, std::string_view message) const {
 }
 
 void ColorMapEditor::addStop() {
-    std::vector<Stop> changed = stops();
-    if (tellIf(changed.size() >= mostStops, "A color map has at most 31 stops.")) return;
+    std::vector<Stop> edited = stops();
+    if (tellIf(edited.size() >= mostStops, "A color map has at most 31 stops.")) return;
     const std::optional<double> at = readNumber(form_.control(position), desktop_);
     if (!at) return;
     if (tellIf(!(*at > 0 && *at < lastPosition), "The position of a stop must lie between 0 and 100.")) return;
-    const auto next = std::ranges::find_if(changed, [&](const Stop& stop) { return stop.position >= *at; });
+    const auto next = std::ranges::find_if(edited, [&](const Stop& stop) { return stop.position >= *at; });
     if (tellIf(next->position == *at, "There is a stop at this position already.")) return;
-    const auto place = next - changed.begin();
+    const auto place = next - edited.begin();
     // The new stop changes nothing in the picture until it is given a colour.
-    changed.insert(next, {*at, colorOnRamp(ramp_, *at / lastPosition)});
-    replaceStops(changed, static_cast<int>(place));
+    edited.insert(next, {*at, colorOnRamp(ramp_, *at / lastPosition)});
+    replaceStops(edited, static_cast<int>(place));
 }
 
 void ColorMapEditor::moveStop() {
-    std::vector<Stop> changed = stops();
+    std::vector<Stop> edited = stops();
     const auto at = static_cast<std::size_t>(selected());
     const std::optional<double> to = readNumber(form_.control(position), desktop_);
     if (!to) return;
-    const bool outer = at == 0 || at + 1 == changed.size();
+    const bool outer = at == 0 || at + 1 == edited.size();
     if (tellIf(outer, "The first and the last stop stay at 0 and 100.")) return;
-    const double lower = changed[at - 1].position;
-    const double upper = changed[at + 1].position;
+    const double lower = edited[at - 1].position;
+    const double upper = edited[at + 1].position;
     if (tellIf(!(*to > lower && *to < upper), "The position of this stop must lie between those of its neighbors, " +
                                                   base::generalText(lower) + " and " + base::generalText(upper) + "."))
         return;
-    changed[at].position = *to;
-    replaceStops(changed, selected());
+    edited[at].position = *to;
+    replaceStops(edited, selected());
 }
 
 void ColorMapEditor::removeStop() {
-    std::vector<Stop> changed = stops();
+    std::vector<Stop> edited = stops();
     const auto at = static_cast<std::size_t>(selected());
-    if (tellIf(at == 0 || at + 1 == changed.size(), "The first and the last stop cannot be removed.")) return;
-    changed.erase(changed.begin() + selected());
-    replaceStops(changed, selected());
+    if (tellIf(at == 0 || at + 1 == edited.size(), "The first and the last stop cannot be removed.")) return;
+    edited.erase(edited.begin() + selected());
+    replaceStops(edited, selected());
 }
 
 void ColorMapEditor::recolorStop() {
-    std::vector<Stop> changed = stops();
-    Stop& stop = changed.at(static_cast<std::size_t>(selected()));
+    std::vector<Stop> edited = stops();
+    Stop& stop = edited.at(static_cast<std::size_t>(selected()));
     if (const auto chosen = desktop_.pickColor(stop.color)) {
         stop.color = *chosen;
-        replaceStops(changed, selected());
+        replaceStops(edited, selected());
     }
 }
 

@@ -7,6 +7,8 @@
 
 namespace tessaplot::ui {
 
+// Short forms for the controls that dialogs make one by one.
+
 inline Control label(std::string name, std::string caption) {
     return {.kind = ControlKind::Label, .name = std::move(name), .caption = std::move(caption)};
 }

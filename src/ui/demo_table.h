@@ -11,6 +11,7 @@ struct Demo {
     std::string_view fileName;  ///< In the folder of the samples.
 };
 
+/// All of them; the menu table gives their order.
 std::span<const Demo> demos();
 
 }  // namespace tessaplot::ui

@@ -5,7 +5,7 @@
 
 namespace tessaplot::ui::field {
 
-/// Short forms for the tables of bound controls.
+// Short forms for the tables of bound controls.
 
 constexpr Field option(std::string_view name, std::string_view caption, int graphs::Cls9::*property, int value) {
     return {ControlKind::OptionButton, name, caption, property, value};

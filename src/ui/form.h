@@ -9,6 +9,7 @@
 
 namespace tessaplot::ui {
 
+/// The widgets that a form is made of; a ramp is a strip of colours that only shows.
 enum class ControlKind { Label, TextBox, CheckBox, OptionButton, ComboBox, ListBox, ColorBox, Slider, Button, Ramp };
 
 /// One entry of a combo or list box, with the colours, from left to right, that picture it.

@@ -10,12 +10,10 @@
 #include "core/app_state.h"
 #include "graphs/graph.h"
 #include "ui/bound_field.h"
+#include "ui/graph_addition.h"
 #include "ui/panel_ranges.h"
 
 namespace tessaplot::ui {
-
-/// What a kind of graph needs of the data.
-enum class DataNeed { Scales, Surface, ScatteredSurface, Volume };
 
 /// What tells the graph dialogs apart.
 struct GraphDialogKind {
@@ -75,17 +73,11 @@ class GraphForm : public Form {
         std::string_view control;
         std::vector<std::string_view> anyOf;
     };
-    struct PanelReading;
-    class Replacement;
 
     void addGridding(std::vector<Frame>& frames);
     void applyEnabling();
-    data::GriddingChoice chosenGridding() const;
-    bool keepsData() const;
-    PanelReading readPanel() const;
-    void addGraph(graphs::Cls9 graph);
-    void drawOnTrial(graphs::Cls9 graph) const;
-    void enlist(graphs::Cls9 graph);
+    /// As the user has chosen it.
+    data::GriddingChoice gridding() const;
     void tellFailure(const base::Failure& failure);
 
     core::AppState& state_;

@@ -27,7 +27,7 @@ constexpr std::array fields{field::number("Text1", "Value", &Cls9::IsoSurValue, 
 
 frmF33::frmF33(core::AppState& state)
     : GraphForm(state, {graphs::graph_type::isoSurface, "frmF33", "IsoSurface Properties", DataNeed::Volume}) {
-    if (ranges_) draft_.IsoSurValue = (ranges_->value.lower + ranges_->value.upper) / 2;
+    if (ranges_) draft_.IsoSurValue = ranges_->value.middle();
     addFields(fields);
     add(label("Label1", ""));
     add({.kind = ControlKind::Slider, .name = "Slider1", .caption = "Value"});

@@ -1,11 +1,10 @@
 #include "ui/main_window.h"
 
-#include <new>
-
 #include "base/failure.h"
 #include "core/graph_list.h"
 #include "core/refresh.h"
 #include "ui/command_table.h"
+#include "ui/failure_text.h"
 #include "ui/toolbar_table.h"
 
 namespace tessaplot::ui {
@@ -118,11 +117,10 @@ void frmF1::setStandardView(double roll, double pitch, double yaw) {
 }
 
 void frmF1::showFailure(const std::exception& failure) const {
-    const auto* ours = dynamic_cast<const base::Failure*>(&failure);
-    if (ours != nullptr && ours->code() == base::FailureCode::Cancelled) return state_.desktop.status(failure.what());
-    const bool memory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr;
-    state_.desktop.askUser(
-        {"Tessaplot", memory ? "There is not enough memory for this." : failure.what(), platform::Icon::Error});
+    if (isCancelled(failure))
+        state_.desktop.status(failure.what());
+    else
+        state_.desktop.askUser({"Tessaplot", failureText(failure), platform::Icon::Error});
 }
 
 }  // namespace tessaplot::ui

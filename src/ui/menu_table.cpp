@@ -1,5 +1,6 @@
 #include "ui/menu_table.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tessaplot::ui {
@@ -151,6 +152,11 @@ constexpr std::array gridMenu{
 
 std::span<const MenuEntry> menuBar() {
     return bar;
+}
+
+std::string_view hintOf(std::string_view command) {
+    const auto entry = std::ranges::find(bar, command, &MenuEntry::name);
+    return entry == bar.end() ? std::string_view() : entry->hint;
 }
 
 std::span<const MenuEntry> popupMenu(std::string_view name) {

@@ -17,6 +17,9 @@ struct MenuEntry {
 /// The menu bar, from left to right and from top to bottom.
 std::span<const MenuEntry> menuBar();
 
+/// The hint for the status line of a command on the menu bar; empty for any other name.
+std::string_view hintOf(std::string_view command);
+
 /// The entries of a popup menu: "FunEdit" of the graph list, "GraphEdit" of the picture, "mnuGE" of the data grid,
 /// whose shortcuts hold while the grid has the focus. Empty for any other name.
 std::span<const MenuEntry> popupMenu(std::string_view name);

@@ -10,10 +10,6 @@ namespace tessaplot::ui {
 
 namespace {
 
-bool isBlank(std::string_view text) {
-    return text.find_first_not_of(' ') == std::string_view::npos;
-}
-
 /// The plus of an exponent is no character of a box and would end the number.
 std::string withoutPlus(std::string text) {
     std::erase(text, '+');
@@ -43,6 +39,10 @@ std::string proposedText(double value) {
     return withoutPlus(base::generalText(value));
 }
 
+bool isBlank(std::string_view text) {
+    return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
 std::optional<double> numberIn(std::string_view text) {
     std::string cleaned;
     if (isBlank(text) || !base::CleanNumberText(text, cleaned)) return std::nullopt;
@@ -57,9 +57,13 @@ void tellIllegalData(const platform::Desktop& desktop) {
     tell(desktop, "Error", "Illegal data exist.");
 }
 
+void tellMissingEntry(const platform::Desktop& desktop) {
+    tell(desktop, "Note", "Input all parameters please.");
+}
+
 std::optional<double> readNumber(Control& box, const platform::Desktop& desktop) {
     if (isBlank(box.text)) {
-        tell(desktop, "Note", "Input all parameters please.");
+        tellMissingEntry(desktop);
         return std::nullopt;
     }
     std::string cleaned;

@@ -15,6 +15,9 @@ std::string boxText(float value);
 /// A number as a text box proposes it, rounded for reading.
 std::string proposedText(double value);
 
+/// True for a text of blanks alone.
+bool isBlank(std::string_view text);
+
 /// The number that starts the text, read as by `readNumber` but without a message.
 std::optional<double> numberIn(std::string_view text);
 
@@ -23,6 +26,8 @@ void tell(const platform::Desktop& desktop, std::string_view title, std::string_
 
 /// "Illegal data exist."
 void tellIllegalData(const platform::Desktop& desktop);
+/// "Input all parameters please."
+void tellMissingEntry(const platform::Desktop& desktop);
 
 /// The number in a text box, whose text becomes the cleaned one: blanks are dropped, a comma is a point, and the first
 /// character that cannot stand in a number ends it. Nothing, after a message, for an empty box and for text without a

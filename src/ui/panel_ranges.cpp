@@ -15,6 +15,7 @@ namespace {
 using data::DataKind;
 using data::DataPanel;
 
+/// The boxes of the panel that hold the limits and the node count of one axis.
 struct Boxes {
     int lower;
     int upper;

@@ -7,9 +7,13 @@
 
 namespace tessaplot::ui {
 
+/// What lies between two numbers, both included.
 struct Range {
     double lower = 0;
     double upper = 0;
+
+    bool contains(double value) const { return value >= lower && value <= upper; }
+    double middle() const { return (lower + upper) / 2; }
 };
 
 /// What the data in the panel span, in their own units.

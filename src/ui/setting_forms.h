@@ -7,8 +7,8 @@
 
 namespace tessaplot::ui {
 
-/// The dialogs that belong to no graph, filled from the state. Their OK applies what was set, rebuilds the scene and
-/// repaints the picture.
+// The dialogs that belong to no graph, filled from the state. Their OK applies what was set, rebuilds the scene and
+// repaints the picture.
 
 std::unique_ptr<Form> makeAxisForm(core::AppState& state);      ///< frmF3, "Axis Properties".
 std::unique_ptr<Form> makeLightForm(core::AppState& state);     ///< frmF8, "Light Properties".

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
 #include "ui/graph_dialog.h"
+#include "ui/slice_controls.h"
 
 namespace tessaplot::ui {
 
-/// The slices across one axis of a volume: a list, and controls for the position, the looks and the limits of a slice.
+/// The slices across one axis of a volume: a list of them, and the controls for one.
 class SliceEditor : public FormPart {
  public:
     /// `axis` is 0 for X, 1 for Y, 2 for Z; `ranges`, which may be null, outlives the editor.
@@ -26,22 +26,13 @@ class SliceEditor : public FormPart {
     bool storeMiddle(graphs::Cls9& graph) const;
 
  private:
-    using Slice = graphs::SliceSet::Slice;
+    using Slice = SliceControls::Slice;
     /// The names of the controls.
     struct Names {
-        std::string list, position, slider, interval, color, contours, vectors, contourColor, vectorColor;
-        std::array<std::string, 4> limits;
-        std::string add, addEnds, change, remove;
+        std::string list, add, addEnds, change, remove;
     };
 
     static Names namesFor(int axis);
-    std::vector<Control> lookControls() const;
-    std::vector<Control> placeControls() const;
-    std::optional<Range> span() const;
-    int nodesAlong(int limit) const;
-    bool readLook(Slice& slice) const;
-    bool readLimits(Slice& slice) const;
-    bool readPosition(Slice& slice) const;
     bool hasRoomFor(std::size_t more) const;
     bool hasSelection() const;
     void add();
@@ -55,8 +46,8 @@ class SliceEditor : public FormPart {
     Form& form_;
     const platform::Desktop& desktop_;
     int axis_;
-    const PanelRanges* ranges_;
     Names names_;
+    SliceControls one_;  ///< For the slice that is selected, or the next one.
     std::vector<Slice> slices_;
 };
 

@@ -13,14 +13,13 @@ namespace tessaplot::ui {
 namespace {
 
 using graphs::Cls9;
+namespace texture_mode = graphs::texture_mode;
 
-constexpr int textureAlone = 1;
-constexpr int textureWithFill = 2;
 constexpr double halfClear = 0.5;
 
 constexpr std::array fields{
-    field::option("Option5", "Overlay", &Cls9::TexMode, textureAlone),
-    field::option("Option6", "Blend", &Cls9::TexMode, textureWithFill),
+    field::option("Option5", "Overlay", &Cls9::TexMode, texture_mode::alone),
+    field::option("Option6", "Blend", &Cls9::TexMode, texture_mode::withFill),
     field::colorBox("Picture4", "Color", &Cls9::SecondColor, "The single color"),
     field::check("Check1", "Add Color Map", &Cls9::ShowColormap),
     field::check("Check2", "Add Contour Plot", &Cls9::ShowContour),
@@ -46,7 +45,7 @@ bool isPlainFill(const Control& control) {
 frmF12::frmF12(core::AppState& state)
     : GraphForm(state, {graphs::graph_type::surface, "frmF12", "3D Surface Properties", DataNeed::Surface}) {
     draft_.FillStyle = proposedFill(ranges_);
-    draft_.TexMode = textureWithFill;
+    draft_.TexMode = texture_mode::withFill;
     draft_.TransAlpha = halfClear;
     if (ranges_) draft_.ContourLevel = roundStep(ranges_->value);
     addFields(surfaceFillFields);

@@ -3,65 +3,47 @@
 #include <array>
 #include <cstddef>
 
+#include "ui/menu_table.h"
+
 namespace tessaplot::ui {
 
 namespace {
 
-constexpr std::array buttons{
-    ToolbarButton{2, "mnuFileNew2D", "Create new 2D graphs"},
-    ToolbarButton{3, "mnuFileNew3D", "Create new 3D graphs"},
-    ToolbarButton{4, "mnuFileNew4D", "Create new 4D graphs"},
-    ToolbarButton{6, "mnuFileOpen", "Open file"},
-    ToolbarButton{7, "mnuFileSave", "Save file"},
-    ToolbarButton{8, "mnuFileSaveAs", "Save file as"},
-    ToolbarButton{10, "mnuFilePrint", "Print"},
-    ToolbarButton{12, "mnuEditCut", "Cut the selected graph"},
-    ToolbarButton{13, "mnuEditCopy", "Copy the selected graph"},
-    ToolbarButton{14, "mnuEditCopyAs", "Copy graphs as bitmap"},
-    ToolbarButton{15, "mnuEditPaste", "Paste"},
-    ToolbarButton{16, "mnuEditDelete", "Delete the selected graph"},
-    ToolbarButton{18, "mnuHelpCon", "Get online help"},
-    ToolbarButton{20, "mnuDrawPoint", "Add a point"},
-    ToolbarButton{22, "mnuDrawVert", "Add a vertex model"},
-    ToolbarButton{23, "mnuDrawGrid", "Add a grid model"},
-    ToolbarButton{24, "mnuDrawTab3D", "Add a surface model"},
-    ToolbarButton{25, "mnuDrawDelaunay", "Create Delaunay Triangles"},
-    ToolbarButton{27, "mnuDrawColor", "Add a color map"},
-    ToolbarButton{28, "mnuDrawCon", "Add a contour plot"},
-    ToolbarButton{29, "mnuDrawVector", "Add a vector plot"},
-    ToolbarButton{30, "mnuDrawCon3D", "Add a 3D contour plot"},
-    ToolbarButton{32, "mnuDraw4DScat", "Add a 4D scatter plot"},
-    ToolbarButton{33, "mnuDraw4DVec", "Add a 4D vector plot"},
-    ToolbarButton{34, "mnuDraw4DSlice", "Add a 4D slice plot"},
-    ToolbarButton{36, "mnuDrawAxis", "Set axis properties"},
-    ToolbarButton{37, "mnuDrawLight", "Set light properties"},
-    ToolbarButton{39, "mnuViewMove", "Move the scene"},
-    ToolbarButton{40, "mnuViewZoom", "Zoom in or zoom out the scene"},
-    ToolbarButton{41, "mnuViewFit", "Zoom to an appropriate size"},
-    ToolbarButton{42, "mnuViewRotateX", "Rotate About X Axis"},
-    ToolbarButton{43, "mnuViewRotateY", "Rotate About Y Axis"},
-    ToolbarButton{44, "mnuViewRotateZ", "Rotate About Z Axis"},
-    ToolbarButton{45, "mnuViewRotate", "Rotate the scene"},
-    ToolbarButton{47, "mnuViewFront", "View from the front"},
-    ToolbarButton{48, "mnuViewRight", "View from the right"},
-    ToolbarButton{49, "mnuViewTop", "View from the top"},
-    ToolbarButton{50, "mnuViewISO", "View ISO"},
+/// Where the button of a command stands.
+struct ButtonPlace {
+    int index;
+    std::string_view command;
 };
 
-constexpr std::array<ToolbarButton, toolbarSize> withSeparators() {
+constexpr std::array buttons{
+    ButtonPlace{2, "mnuFileNew2D"},    ButtonPlace{3, "mnuFileNew3D"},    ButtonPlace{4, "mnuFileNew4D"},
+    ButtonPlace{6, "mnuFileOpen"},     ButtonPlace{7, "mnuFileSave"},     ButtonPlace{8, "mnuFileSaveAs"},
+    ButtonPlace{10, "mnuFilePrint"},   ButtonPlace{12, "mnuEditCut"},     ButtonPlace{13, "mnuEditCopy"},
+    ButtonPlace{14, "mnuEditCopyAs"},  ButtonPlace{15, "mnuEditPaste"},   ButtonPlace{16, "mnuEditDelete"},
+    ButtonPlace{18, "mnuHelpCon"},     ButtonPlace{20, "mnuDrawPoint"},   ButtonPlace{22, "mnuDrawVert"},
+    ButtonPlace{23, "mnuDrawGrid"},    ButtonPlace{24, "mnuDrawTab3D"},   ButtonPlace{25, "mnuDrawDelaunay"},
+    ButtonPlace{27, "mnuDrawColor"},   ButtonPlace{28, "mnuDrawCon"},     ButtonPlace{29, "mnuDrawVector"},
+    ButtonPlace{30, "mnuDrawCon3D"},   ButtonPlace{32, "mnuDraw4DScat"},  ButtonPlace{33, "mnuDraw4DVec"},
+    ButtonPlace{34, "mnuDraw4DSlice"}, ButtonPlace{36, "mnuDrawAxis"},    ButtonPlace{37, "mnuDrawLight"},
+    ButtonPlace{39, "mnuViewMove"},    ButtonPlace{40, "mnuViewZoom"},    ButtonPlace{41, "mnuViewFit"},
+    ButtonPlace{42, "mnuViewRotateX"}, ButtonPlace{43, "mnuViewRotateY"}, ButtonPlace{44, "mnuViewRotateZ"},
+    ButtonPlace{45, "mnuViewRotate"},  ButtonPlace{47, "mnuViewFront"},   ButtonPlace{48, "mnuViewRight"},
+    ButtonPlace{49, "mnuViewTop"},     ButtonPlace{50, "mnuViewISO"},
+};
+
+std::array<ToolbarButton, toolbarSize> withSeparators() {
     std::array<ToolbarButton, toolbarSize> places{};
     for (std::size_t i = 0; i < places.size(); ++i)
         places[i].index = static_cast<int>(i) + 1;
-    for (const ToolbarButton& button : buttons)
-        places[static_cast<std::size_t>(button.index) - 1] = button;
+    for (const ButtonPlace& button : buttons)
+        places[static_cast<std::size_t>(button.index) - 1] = {button.index, button.command, hintOf(button.command)};
     return places;
 }
-
-constexpr std::array<ToolbarButton, toolbarSize> places = withSeparators();
 
 }  // namespace
 
 std::span<const ToolbarButton> toolbar() {
+    static const std::array<ToolbarButton, toolbarSize> places = withSeparators();
     return places;
 }
 

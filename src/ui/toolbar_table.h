@@ -5,7 +5,7 @@
 
 namespace tessaplot::ui {
 
-/// One place of the toolbar: a button with its command and the hint for the status line, or a separator without.
+/// One place of the toolbar: a button with its command and the hint of its menu entry, or a separator without.
 struct ToolbarButton {
     int index = 0;  ///< From 1 on.
     std::string_view command = {};

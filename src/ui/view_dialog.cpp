@@ -44,7 +44,7 @@ void frmF14::ok() {
     std::array<double, boxes.size()> limits{};  // An empty box is a limit of 0.
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         Control& box = control(boxes[i].name);
-        if (box.text.find_first_not_of(' ') == std::string::npos) continue;
+        if (isBlank(box.text)) continue;
         const std::optional<double> limit = readNumber(box, state_.desktop);
         if (!limit) return;
         limits[i] = *limit;
