@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "qt/swatch.h"
+#include "qt/text.h"
 
 namespace tessaplot::qt {
 
@@ -28,10 +29,6 @@ using ui::Form;
 constexpr int boxCharacters = 13;
 constexpr int sliderSteps = 1000;
 constexpr QSize colorSize(56, 16);
-
-QString textOf(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 /// A text box as wide as a number.
 class NumberEdit : public QLineEdit {
@@ -63,7 +60,7 @@ class EntryList : public QListWidget {
 FormControl makeLabel(const Control&, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
-    return {label, nullptr, [label](const Control& control) { label->setText(textOf(control.caption)); }};
+    return {label, nullptr, [label](const Control& control) { label->setText(qString(control.caption)); }};
 }
 
 FormControl makeTextBox(const Control& of, const FormAction& act, QWidget* parent) {
@@ -73,7 +70,7 @@ FormControl makeTextBox(const Control& of, const FormAction& act, QWidget* paren
     });
     return {edit, nullptr, [edit](const Control& control) {
                 // Setting the same text again would move the cursor.
-                if (const QString text = textOf(control.text); text != edit->text()) edit->setText(text);
+                if (const QString text = qString(control.text); text != edit->text()) edit->setText(text);
             }};
 }
 
@@ -103,7 +100,7 @@ FormControl makeComboBox(const Control& of, const FormAction& act, QWidget* pare
                 if (control.items != shown) {
                     combo->clear();
                     for (const ui::Item& item : control.items)
-                        combo->addItem(iconOf(item), textOf(item.text));
+                        combo->addItem(iconOf(item), qString(item.text));
                     shown = control.items;
                 }
                 combo->setCurrentIndex(control.selected);
@@ -120,7 +117,7 @@ FormControl makeListBox(const Control& of, const FormAction& act, QWidget* paren
                 if (control.items != shown) {
                     list->clear();
                     for (const ui::Item& item : control.items)
-                        new QListWidgetItem(iconOf(item), textOf(item.text), list);
+                        new QListWidgetItem(iconOf(item), qString(item.text), list);
                     shown = control.items;
                     list->updateGeometry();
                 }
@@ -160,7 +157,7 @@ int stepOf(const Control& control) {
 FormControl makeSlider(const Control& of, const FormAction& act, QWidget* parent) {
     auto* pane = new QWidget(parent);
     auto* slider = new QSlider(Qt::Horizontal, pane);
-    slider->setObjectName(textOf(of.name));
+    slider->setObjectName(qString(of.name));
     slider->setRange(0, sliderSteps);
     slider->setSingleStep(sliderSteps / 100);
     slider->setPageStep(sliderSteps / 10);
@@ -229,21 +226,21 @@ QLabel* makeCaption(const Control& control, QWidget* parent) {
 }  // namespace
 
 QString shownCaption(const std::string& caption) {
-    return textOf(caption).trimmed().replace('&', "&&");
+    return qString(caption).trimmed().replace('&', "&&");
 }
 
 FormControl makeFormControl(const Control& of, const FormAction& act, QWidget* parent) {
     QLabel* caption = makeCaption(of, parent);
     FormControl made = makeBare(of, act, parent);
     made.caption = caption;
-    if (of.kind != ControlKind::Slider) made.widget->setObjectName(textOf(of.name));
+    if (of.kind != ControlKind::Slider) made.widget->setObjectName(qString(of.name));
     if (caption) caption->setBuddy(made.widget);
     made.sync = [widget = made.widget, caption, bare = std::move(made.sync)](const Control& control) mutable {
         const QSignalBlocker quiet(widget);
         bare(control);
         widget->setEnabled(control.enabled);
         widget->setVisible(control.visible);
-        widget->setToolTip(textOf(control.hint));
+        widget->setToolTip(qString(control.hint));
         if (!caption) return;
         caption->setText(shownCaption(control.caption));
         caption->setEnabled(control.enabled);

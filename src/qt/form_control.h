@@ -23,6 +23,7 @@ struct FormControl {
     std::function<void(const ui::Control&)> sync;
 };
 
+/// Makes the widget of a control; what the user does to it goes to the form by way of `act`.
 FormControl makeFormControl(const ui::Control& control, const FormAction& act, QWidget* parent);
 
 /// A caption as widgets show it: without blanks round it, and with no character that stands for a key.

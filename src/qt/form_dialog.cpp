@@ -2,17 +2,16 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <exception>
-#include <new>
 #include <vector>
 
-#include "base/failure.h"
 #include "qt/form_page.h"
+#include "qt/message_box.h"
 #include "qt/progress_pane.h"
+#include "ui/failure_text.h"
 
 namespace tessaplot::qt {
 
@@ -112,23 +111,12 @@ void FormDialog::act(const std::function<void(ui::Form&)>& action) {
 
 /// A failure that the form has not told itself is told here, and the dialog stays.
 void FormDialog::run(const std::function<void(ui::Form&)>& action) {
-    QString failed;
     try {
         action(form_);
-        return;
-    } catch (const base::Failure& failure) {
-        if (failure.code() == base::FailureCode::Cancelled) return;
-        failed = QString::fromStdString(failure.what());
-    } catch (const std::bad_alloc&) {
-        failed = tr("There is not enough memory for this.");
     } catch (const std::exception& failure) {
-        failed = QString::fromStdString(failure.what());
+        if (!ui::isCancelled(failure))
+            showMessage(this, {"Tessaplot", ui::failureText(failure), platform::Icon::Error});
     }
-    QMessageBox box(QMessageBox::Critical, "Tessaplot", {}, QMessageBox::Ok, this);
-    box.setObjectName("MessageBox");
-    box.setTextFormat(Qt::PlainText);
-    box.setText(failed);
-    box.exec();
 }
 
 void FormDialog::sync() {

@@ -64,7 +64,7 @@ Row unitsOf(const std::vector<NamedControl>& controls, const ui::Form& form) {
         QWidget* heard = shown.widget->focusProxy() ? shown.widget->focusProxy() : shown.widget;
         heard->setAccessibleName(said);
         QWidget* label = takesLabel ? waiting : shown.caption;
-        waiting = isLabel ? static_cast<QLabel*>(shown.widget) : nullptr;
+        waiting = isLabel ? qobject_cast<QLabel*>(shown.widget) : nullptr;
         if (!waiting) units.push_back({label, shown.widget});
     }
     if (waiting) units.push_back({nullptr, waiting});
@@ -121,6 +121,13 @@ void placeRows(QGridLayout& grid, const std::vector<Row>& rows) {
     if (anyLabel && !anySpreads) grid.setColumnStretch(columns, 1);
 }
 
+/// The label in a cell of the grid that names a field; null for none.
+QLabel* labelAt(const QGridLayout& grid, int row, int column) {
+    const QLayoutItem* item = grid.itemAtPosition(row, column);
+    auto* label = item ? qobject_cast<QLabel*>(item->widget()) : nullptr;
+    return label && label->buddy() ? label : nullptr;
+}
+
 }  // namespace
 
 FormPage::FormPage(const ui::Page& page, const ui::Form& form, const FormAction& act, QWidget* parent)
@@ -133,7 +140,8 @@ FormPage::FormPage(const ui::Page& page, const ui::Form& form, const FormAction&
 
 void FormPage::addGroup(const ui::Frame& frame, const ui::Form& form, const FormAction& act) {
     if (frame.rows.empty()) return;
-    Group group{makeBox(frame.caption, this), {}};
+    QWidget* box = makeBox(frame.caption, this);
+    Group group{box, new QGridLayout(box), {}};
     std::vector<Row> rows;
     for (const std::vector<std::string>& names : frame.rows) {
         std::vector<NamedControl> controls;
@@ -143,18 +151,18 @@ void FormPage::addGroup(const ui::Frame& frame, const ui::Form& form, const Form
         rows.push_back(unitsOf(controls, form));
         std::ranges::move(controls, std::back_inserter(group.controls));
     }
-    placeRows(*new QGridLayout(group.box), rows);
+    placeRows(*group.grid, rows);
     groups_.push_back(std::move(group));
 }
 
 void FormPage::sync(const ui::Form& form) {
-    for (const auto& [box, controls] : groups_) {
+    for (const Group& group : groups_) {
         bool anyVisible = false;
-        for (const auto& [name, shown] : controls) {
+        for (const auto& [name, shown] : group.controls) {
             shown.sync(form.control(name));
             anyVisible = anyVisible || form.control(name).visible;
         }
-        box->setVisible(anyVisible);
+        group.box->setVisible(anyVisible);
     }
 }
 
@@ -162,13 +170,10 @@ void FormPage::sync(const ui::Form& form) {
 void FormPage::alignLabels() {
     std::map<std::pair<int, int>, std::vector<QWidget*>> labels;
     for (const Group& group : groups_) {
-        const auto* grid = static_cast<QGridLayout*>(group.box->layout());
-        for (int row = 0; row < grid->rowCount(); ++row)
-            for (int column = 0; column < grid->columnCount(); column += 2) {
-                const QLayoutItem* item = grid->itemAtPosition(row, column);
-                auto* label = item ? qobject_cast<QLabel*>(item->widget()) : nullptr;
-                if (label && label->buddy()) labels[{grid->columnCount(), column}].push_back(label);
-            }
+        const int columns = group.grid->columnCount();
+        for (int row = 0; row < group.grid->rowCount(); ++row)
+            for (int column = 0; column < columns; column += 2)
+                if (QLabel* label = labelAt(*group.grid, row, column)) labels[{columns, column}].push_back(label);
     }
     for (const auto& [place, column] : labels) {
         int width = 0;

@@ -7,8 +7,11 @@
 #include "qt/form_control.h"
 #include "ui/form.h"
 
+class QGridLayout;
+
 namespace tessaplot::qt {
 
+/// A control that is shown, with its name in the form.
 struct NamedControl {
     std::string name;
     FormControl shown;
@@ -25,8 +28,10 @@ class FormPage : public QWidget {
     QWidget* firstControl() const;
 
  private:
+    /// The controls of one frame, in the box that holds them.
     struct Group {
         QWidget* box;
+        QGridLayout* grid;
         std::vector<NamedControl> controls;
     };
 

@@ -13,6 +13,7 @@ struct Installation {
     ui::HelpTargets help;
 };
 
+/// Looks for what stands beside the running program, which must have an application object.
 Installation findInstallation();
 
 }  // namespace tessaplot::qt

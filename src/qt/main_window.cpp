@@ -65,19 +65,15 @@ MainWindow::MainWindow(ui::frmF1& form)
 }
 
 void MainWindow::makeMenus() {
-    commands_ = fillMenuBar(*menuBar(), ui::menuBar(),
-                            [this](std::string_view command) { act([=, this] { form_.run(command); }); });
-    for (const char* popup : {"FunEdit", "GraphEdit", "mnuGE"})
-        makePopup(popup);
+    const auto run = [this](std::string_view command) { act([=, this] { form_.run(command); }); };
+    commands_ = fillMenuBar(*menuBar(), ui::menuBar(), run);
+    for (const char* name : {"FunEdit", "GraphEdit", "mnuGE"}) {
+        auto* popup = new QMenu(this);
+        popup->setObjectName(name);
+        const auto commands = fillPopupMenu(*popup, ui::popupMenu(name), run);
+        commands_.insert(commands_.end(), commands.begin(), commands.end());
+    }
     panel_->grid()->setCommands(findChild<QMenu*>("mnuGE")->actions());
-}
-
-void MainWindow::makePopup(const char* name) {
-    auto* popup = new QMenu(this);
-    popup->setObjectName(name);
-    const auto commands = fillPopupMenu(*popup, ui::popupMenu(name),
-                                        [this](std::string_view command) { act([=, this] { form_.run(command); }); });
-    commands_.insert(commands_.end(), commands.begin(), commands.end());
 }
 
 void MainWindow::makeToolBar() {
@@ -164,23 +160,27 @@ void MainWindow::followPicture() {
             form_.state().desktop.askUser({"Tessaplot", reason.toStdString(), platform::Icon::Warning});
         },
         Qt::QueuedConnection);
-    connect(surface, &PictureWidget::pressed, this, [this, surface](int button, QPointF at) {
-        const QSize size = surface->pictureSize();
-        popUpAt_ = surface->mapToGlobal((at / surface->devicePixelRatioF()).toPoint());
-        act([=, this] { form_.mouseDown(button, at.x(), at.y(), size.width(), size.height()); });
-    });
-    connect(surface, &PictureWidget::moved, this, [this, surface](int buttons, QPointF at) {
-        const QSize size = surface->pictureSize();
-        if (acting_ || buttons == 0) return;
-        form_.guarded([&] { form_.mouseMove(buttons, at.x(), at.y(), size.width(), size.height()); });
-    });
-    connect(surface, &PictureWidget::released, this, [this] { act([this] { form_.mouseUp(); }); });
+    followMouse(surface);
     // The next turn begins when the last one is on the screen and nothing else is waiting.
     idle_.setSingleShot(true);
     connect(&idle_, &QTimer::timeout, this, &MainWindow::turnIdly);
     connect(surface, &PictureWidget::frameSwapped, this, [this] {
         if (form_.wantsIdle()) idle_.start();
     });
+}
+
+void MainWindow::followMouse(PictureWidget* surface) {
+    connect(surface, &PictureWidget::pressed, this, [this, surface](int button, QPointF at) {
+        const QSize size = surface->pictureSize();
+        popUpAt_ = surface->mapToGlobal((at / surface->devicePixelRatioF()).toPoint());
+        act([=, this] { form_.mouseDown(button, at.x(), at.y(), size.width(), size.height()); });
+    });
+    connect(surface, &PictureWidget::moved, this, [this, surface](int buttons, QPointF at) {
+        if (acting_ || buttons == 0) return;
+        const QSize size = surface->pictureSize();
+        form_.guarded([&] { form_.mouseMove(buttons, at.x(), at.y(), size.width(), size.height()); });
+    });
+    connect(surface, &PictureWidget::released, this, [this] { act([this] { form_.mouseUp(); }); });
 }
 
 void MainWindow::takeDefaultSize() {

@@ -13,7 +13,6 @@
 
 class QAction;
 class QLabel;
-class QMenu;
 
 namespace tessaplot::qt {
 
@@ -21,6 +20,7 @@ class DataPanelView;
 class GraphListView;
 class GridModel;
 class PicturePane;
+class PictureWidget;
 class ProgressPane;
 class ToolBar;
 
@@ -57,13 +57,13 @@ class MainWindow : public QMainWindow {
 
  private:
     void makeMenus();
-    void makePopup(const char* name);
     void makeToolBar();
     void makePanes();
     QWidget* makeListPane();
     void makeStatusBar();
     void followPanel();
     void followPicture();
+    void followMouse(PictureWidget* surface);
     void takeDefaultSize();
     void setBlocked(bool blocked);
     /// Runs one action of the user. Another one that comes while it lets events run is dropped.

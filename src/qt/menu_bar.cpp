@@ -17,10 +17,8 @@ namespace {
 /// Makes the menus while it walks the table from top to bottom.
 class MenuMaker {
  public:
-    using Run = std::function<void(std::string_view)>;
-
-    MenuMaker(QMenuBar& bar, const Run& run) : bar_(&bar), run_(run) {}
-    MenuMaker(QMenu& popup, const Run& run) : run_(run), roots_(1), open_{&popup} {}
+    MenuMaker(QMenuBar& bar, const RunCommand& run) : bar_(&bar), run_(run) {}
+    MenuMaker(QMenu& popup, const RunCommand& run) : run_(run), roots_(1), open_{&popup} {}
 
     std::vector<QAction*> make(std::span<const ui::MenuEntry> entries) {
         for (std::size_t i = 0; i < entries.size(); ++i)
@@ -59,7 +57,7 @@ class MenuMaker {
     }
 
     QMenuBar* bar_ = nullptr;
-    const Run& run_;
+    const RunCommand& run_;
     std::size_t roots_ = 0;     ///< Menus that are there before the first entry.
     std::vector<QMenu*> open_;  ///< The menu of each depth above the next entry.
     std::vector<QAction*> commands_;
@@ -67,13 +65,11 @@ class MenuMaker {
 
 }  // namespace
 
-std::vector<QAction*> fillMenuBar(QMenuBar& bar, std::span<const ui::MenuEntry> entries,
-                                  const std::function<void(std::string_view)>& run) {
+std::vector<QAction*> fillMenuBar(QMenuBar& bar, std::span<const ui::MenuEntry> entries, const RunCommand& run) {
     return MenuMaker(bar, run).make(entries);
 }
 
-std::vector<QAction*> fillPopupMenu(QMenu& popup, std::span<const ui::MenuEntry> entries,
-                                    const std::function<void(std::string_view)>& run) {
+std::vector<QAction*> fillPopupMenu(QMenu& popup, std::span<const ui::MenuEntry> entries, const RunCommand& run) {
     return MenuMaker(popup, run).make(entries);
 }
 

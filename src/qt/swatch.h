@@ -14,6 +14,7 @@ namespace tessaplot::qt {
 /// The size of the picture of a list entry, in logical pixels.
 inline constexpr QSize swatchSize(48, 14);
 
+/// A packed colour as Qt has it.
 QColor colorOf(base::PackedColor color);
 
 /// The colours, evenly spread from left to right and blended in between, in a thin frame.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/main_window.h"
+#include "ui/toolbar_table.h"
 
 namespace tessaplot::qt {
 
@@ -29,6 +30,8 @@ class ToolBar : public QToolBar {
         std::string_view command;
         QAction* action;
     };
+
+    void addButton(const ui::ToolbarButton& place, const std::function<void(int button)>& press);
 
     std::vector<Button> buttons_;
 };
