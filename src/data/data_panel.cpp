@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 #include <utility>
 
 #include "base/failure.h"
@@ -14,33 +13,6 @@ namespace tessaplot::data {
 namespace {
 
 constexpr int maximumGridSize = 65536;
-constexpr std::string_view illegalData = "Illegal data exist.";
-
-struct CountRule {
-    int box;
-    int least;
-    std::string_view message;
-};
-
-constexpr CountRule pointsRule{3, 3, "The number of points must larger than 3."};
-constexpr std::string_view rowsXMessage = "The number of Rows X must larger than 0.";
-constexpr std::string_view rowsYMessage = "The number of Rows Y must larger than 0.";
-constexpr std::string_view rowsZMessage = "The number of Rows Z must larger than 0.";
-
-std::vector<CountRule> countRules(DataKind kind) {
-    switch (kind) {
-        case DataKind::RegularSurface:
-            return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}};
-        case DataKind::IrregularSurface:
-            return {pointsRule, {4, 1, rowsXMessage}, {7, 1, rowsYMessage}};
-        case DataKind::RegularVolume:
-            return {{1, 1, rowsXMessage}, {2, 1, rowsYMessage}, {4, 1, rowsZMessage}};
-        case DataKind::IrregularVolume:
-            return {pointsRule, {4, 1, rowsXMessage}, {7, 1, rowsYMessage}, {10, 1, rowsZMessage}};
-        default:
-            return {};
-    }
-}
 
 template <class Texts>
 bool isBlank(const Texts& texts) {
@@ -50,12 +22,6 @@ bool isBlank(const Texts& texts) {
 [[noreturn]] void failFull(std::string_view what) {
     throw base::Failure(base::FailureCode::BadInput,
                         "The " + std::string(what) + " of the data grid is not empty; its text would be lost.");
-}
-
-std::vector<int> cleanedBoxes(DataKind kind) {
-    if (kind == DataKind::IrregularSurface) return {1, 2, 5, 6};
-    if (kind == DataKind::IrregularVolume) return {1, 2, 5, 6, 8, 9};
-    return {};
 }
 
 }  // namespace
@@ -117,7 +83,7 @@ void DataPanel::deleteRows(int first, int last) {
     const std::ptrdiff_t from = std::min<std::ptrdiff_t>(first - 1, stored);
     const std::ptrdiff_t to = std::min<std::ptrdiff_t>(last, stored);
     if (from < to) rows_.erase(rows_.begin() + from, rows_.begin() + to);
-    gridRows_ = std::max(1, gridRows_ - std::max(0, last - first + 1));
+    gridRows_ = std::max(1, gridRows_ - (last - first + 1));
 }
 
 void DataPanel::insertColumn(int column) {
@@ -131,7 +97,6 @@ void DataPanel::insertColumn(int column) {
 void DataPanel::deleteColumns(int first, int last) {
     checkCell(first, 1);
     checkCell(last, 1);
-    if (last < first) return;
     for (Row& row : rows_) {
         const auto rest = std::move(row.begin() + last, row.end(), row.begin() + first - 1);
         std::fill(rest, row.end(), std::string());
@@ -211,46 +176,6 @@ void DataPanel::layOut() {
         indexForm_ = IndexForm::Pair;
         indexColumns_ = count(2);
     }
-}
-
-bool DataPanel::CheckData(std::string& message) {
-    return checkCounts(message) && cleanCells(message);
-}
-
-bool DataPanel::checkCounts(std::string& message) {
-    std::string checked;
-    for (const CountRule& rule : countRules(kind_)) {
-        if (!base::CheckNumberText(Text(rule.box), checked)) {
-            message = illegalData;
-            return false;
-        }
-        if (base::TextValue(checked) < rule.least) {
-            message = rule.message;
-            return false;
-        }
-    }
-    for (const int box : cleanedBoxes(kind_)) {
-        if (!base::CleanNumberText(Text(box), checked)) {
-            message = illegalData;
-            return false;
-        }
-        setText(box, checked);
-    }
-    return true;
-}
-
-bool DataPanel::cleanCells(std::string& message) {
-    std::string cleaned;
-    for (int row = 1; row < gridRows_; ++row) {
-        for (int column = 1; column < gridColumns_; ++column) {
-            if (!base::CleanNumberText(cell(column, row), cleaned)) {
-                message = illegalData;
-                return false;
-            }
-            if (cleaned != cell(column, row)) setCell(column, row, cleaned);
-        }
-    }
-    return true;
 }
 
 void DataPanel::clearCells() {
