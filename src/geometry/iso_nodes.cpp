@@ -1,5 +1,8 @@
 #include "geometry/iso_nodes.h"
 
+#include <algorithm>
+#include <array>
+
 #include "geometry/missing_node.h"
 
 namespace tessaplot::geometry {
@@ -28,6 +31,17 @@ IsoPoint normalised(const IsoPoint& fall) {
 }
 
 }  // namespace
+
+void IsoNodes::fetchLine(int j, int k, LineBits bits) const {
+    const std::array<const double*, 5> lines = {X_.line(j, k), Y_.line(j, k), Z_.line(j, k), V_.line(j, k),
+                                                V_.line(j, std::min(k + 1, nz_))};
+    forEachBit(bits, [&lines](int i) {
+        for (const double* line : lines)
+            __builtin_prefetch(line + i);
+        // Code that does nothing but prefetch passes for code without effect and would be left out.
+        asm volatile("");
+    });
+}
 
 void IsoNodes::addLine(int j, int k, LineBits bits, std::vector<IsoNode>& nodes, std::uint16_t* nodeAt) const {
     const double* x = X_.line(j, k);

@@ -40,6 +40,9 @@ class IsoNodes {
              const base::CheckedArray<double>& Z, const base::CheckedArray<double>& V)
         : nx_(nx), ny_(ny), nz_(nz), X_(X), Y_(Y), Z_(Z), V_(V) {}
 
+    /// Asks the memory for what `addLine` will read: the processor cannot guess the few nodes beside the surface.
+    void fetchLine(int j, int k, LineBits bits) const;
+
     /// Adds the nodes of a line along the first index that have their bits set, and notes in `nodeAt` where.
     void addLine(int j, int k, LineBits bits, std::vector<IsoNode>& nodes, std::uint16_t* nodeAt) const;
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::uint32_t noVertex = 0xFFFFFFFF;
 constexpr std::size_t lineLength = maxIsoIndex + 1;
+constexpr std::size_t linesAhead = 6;  ///< Enough to hide the way to memory, few enough to stay in the first cache.
 
 bool isFinite(const IsoPoint& p) {
     return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
@@ -39,12 +40,14 @@ IsoVertex vertexBetween(const IsoNode& low, const IsoNode& high, float level) {
 struct Plane {
     explicit Plane(int ny)
         : edges(static_cast<std::size_t>(ny) + 1),
+          needed(edges.size()),
           nodeAt(edges.size() * lineLength),
           alongI(nodeAt.size()),
           alongJ(nodeAt.size()),
           alongK(nodeAt.size()) {}
 
     std::vector<EdgeBits> edges;
+    std::vector<LineBits> needed;  ///< The nodes at the ends of edges.
     std::vector<IsoNode> nodes;
     std::vector<std::uint16_t> nodeAt;  ///< Where in `nodes` a node is, if it is there.
     std::vector<std::uint32_t> alongI;
@@ -70,6 +73,7 @@ class SurfaceBuilder {
         placeTriangles();
         for (int k = 0; k <= nz_; ++k) {
             std::swap(plane_, before_);
+            findEdges(k);
             addNodes(k);
             addVertices();
             if (k > 0) addTriangles(k - 1);
@@ -99,17 +103,26 @@ class SurfaceBuilder {
         mesh_.vertices.reserve(total / 2 + total / 16 + 2);
     }
 
-    void addNodes(int k) {
+    void findEdges(int k) {
         for (int j = 0; j <= ny_; ++j)
             plane_.edges[static_cast<std::size_t>(j)] = cells_.edges(j, k);
-        plane_.nodes.clear();
         LineBits alongJBefore = 0;
         for (std::size_t j = 0; j < plane_.edges.size(); ++j) {
             const EdgeBits& edges = plane_.edges[j];
-            const LineBits ends =
+            plane_.needed[j] =
                 edges.alongI | edges.alongI << 1 | edges.alongJ | alongJBefore | edges.alongK | before_.edges[j].alongK;
             alongJBefore = edges.alongJ;
-            nodesOf_.addLine(static_cast<int>(j), k, ends, plane_.nodes, &plane_.nodeAt[j * lineLength]);
+        }
+    }
+
+    void addNodes(int k) {
+        plane_.nodes.clear();
+        for (std::size_t fetched = 0; fetched < plane_.needed.size() + linesAhead; ++fetched) {
+            if (fetched < plane_.needed.size())
+                nodesOf_.fetchLine(static_cast<int>(fetched), k, plane_.needed[fetched]);
+            if (fetched < linesAhead) continue;
+            const std::size_t j = fetched - linesAhead;
+            nodesOf_.addLine(static_cast<int>(j), k, plane_.needed[j], plane_.nodes, &plane_.nodeAt[j * lineLength]);
         }
     }
 
