@@ -30,7 +30,7 @@ std::uint32_t usableNodes(const double* values) {
 
 }  // namespace
 
-void CrossedCells::classifyBlock(const double* values, int first, float level, Line& line) {
+void CrossedCells::classifyBlock(const double* values, int first, float level, Classes& classes) {
     constexpr float largest = std::numeric_limits<float>::max();
     constexpr auto marker = static_cast<float>(base::missingValue);
     Bits below{};
@@ -42,45 +42,50 @@ void CrossedCells::classifyBlock(const double* values, int first, float level, L
     }
     const bool allPlain = (plain[0] & plain[1] & plain[2] & plain[3]) != 0;
     const std::uint32_t usable = allPlain ? ~0U : usableNodes(values);
-    line.below |= static_cast<LineBits>(static_cast<std::uint32_t>(below[0] | below[1] | below[2] | below[3])) << first;
-    line.usable |= static_cast<LineBits>(usable) << first;
+    classes.below |= static_cast<LineBits>(static_cast<std::uint32_t>(below[0] | below[1] | below[2] | below[3]))
+                     << first;
+    classes.usable |= static_cast<LineBits>(usable) << first;
 }
 
-CrossedCells::Line CrossedCells::classified(const double* values, int count, float level) {
-    Line line;
+CrossedCells::Classes CrossedCells::classified(const double* values, int count, float level) {
+    Classes classes;
     if (count < blockSize) {
         std::array<double, blockSize> padded{};
         std::fill(std::copy(values, values + count, padded.begin()), padded.end(), base::missingValue);
-        classifyBlock(padded.data(), 0, level, line);
-        return line;
+        classifyBlock(padded.data(), 0, level, classes);
+        return classes;
     }
     for (int first = 0; first + blockSize < count; first += blockSize)
-        classifyBlock(values + first, first, level, line);
-    classifyBlock(values + count - blockSize, count - blockSize, level, line);
-    return line;
+        classifyBlock(values + first, first, level, classes);
+    classifyBlock(values + count - blockSize, count - blockSize, level, classes);
+    return classes;
 }
 
 CrossedCells::CrossedCells(int nx, int ny, int nz, const base::CheckedArray<double>& V, float level)
-    : stride_(static_cast<std::size_t>(nz) + 3), lines_((static_cast<std::size_t>(ny) + 3) * stride_) {
-    for (int k = 0; k <= nz; ++k)
-        for (int j = 0; j <= ny; ++j)
-            lines_[at(j, k)] = classified(&V(0, j, k), nx + 1, level);
-    for (int j = 0; j < ny; ++j)
-        for (int k = 0; k < nz; ++k)
-            lines_[at(j, k)].cells = cellsOf(j, k);
+    : stride_(static_cast<std::size_t>(ny) + 3), lines_((static_cast<std::size_t>(nz) + 3) * stride_) {
+    std::vector<LineBits> usable(static_cast<std::size_t>(ny) + 1);  // At the present third index and the one before.
+    std::vector<LineBits> usableInBoth(usable.size());
+    for (int k = 0; k <= nz; ++k) {
+        for (std::size_t j = 0; j < usable.size(); ++j) {
+            const Classes classes = classified(&V(0, static_cast<int>(j), k), nx + 1, level);
+            lines_[at(static_cast<int>(j), k)].below = classes.below;
+            usableInBoth[j] = usable[j] & classes.usable;
+            usable[j] = classes.usable;
+        }
+        for (std::size_t j = 0; k > 0 && j + 1 < usable.size(); ++j) {
+            const LineBits round = usableInBoth[j] & usableInBoth[j + 1];
+            lines_[at(static_cast<int>(j), k - 1)].cells = mixedCells(static_cast<int>(j), k - 1) & round & round >> 1;
+        }
+    }
 }
 
-LineBits CrossedCells::cellsOf(int j, int k) const {
-    const std::array<const Line*, 4> round = {&line(j, k), &line(j + 1, k), &line(j, k + 1), &line(j + 1, k + 1)};
-    LineBits every = ~LineBits{0};
-    LineBits any = 0;
-    LineBits usable = ~LineBits{0};
-    for (const Line* nodes : round) {
-        every &= nodes->below;
-        any |= nodes->below;
-        usable &= nodes->usable;
-    }
-    return (any | any >> 1) & ~(every & every >> 1) & usable & usable >> 1;
+/// The cells with corners on both sides of the level.
+LineBits CrossedCells::mixedCells(int j, int k) const {
+    const std::array<LineBits, 4> round = {line(j, k).below, line(j + 1, k).below, line(j, k + 1).below,
+                                           line(j + 1, k + 1).below};
+    const LineBits every = round[0] & round[1] & round[2] & round[3];
+    const LineBits any = round[0] | round[1] | round[2] | round[3];
+    return (any | any >> 1) & ~(every & every >> 1);
 }
 
 EdgeBits CrossedCells::edges(int j, int k) const {

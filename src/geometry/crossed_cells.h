@@ -41,20 +41,23 @@ class CrossedCells {
     /// What the nodes of a line along the first index are, and the cells that have their first corners there.
     struct Line {
         LineBits below = 0;
-        LineBits usable = 0;
         LineBits cells = 0;
+    };
+    struct Classes {
+        LineBits below = 0;
+        LineBits usable = 0;
     };
 
     const Line& line(int j, int k) const { return lines_[at(j, k)]; }
     std::size_t at(int j, int k) const {
-        return static_cast<std::size_t>(std::ptrdiff_t{j} + 1) * stride_ +
-               static_cast<std::size_t>(std::ptrdiff_t{k} + 1);
+        return static_cast<std::size_t>(std::ptrdiff_t{k} + 1) * stride_ +
+               static_cast<std::size_t>(std::ptrdiff_t{j} + 1);
     }
-    static Line classified(const double* values, int count, float level);
-    static void classifyBlock(const double* values, int first, float level, Line& line);
-    LineBits cellsOf(int j, int k) const;
+    static Classes classified(const double* values, int count, float level);
+    static void classifyBlock(const double* values, int first, float level, Classes& classes);
+    LineBits mixedCells(int j, int k) const;
 
-    std::size_t stride_;  ///< From the line of a second index to that of the next.
+    std::size_t stride_;  ///< From the line of a third index to that of the next.
     std::vector<Line> lines_;
 };
 
