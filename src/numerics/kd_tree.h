@@ -76,7 +76,7 @@ class KdTree {
     }
 
  private:
-    static constexpr std::size_t leafPoints = 16;
+    static constexpr std::size_t leafPoints = 24;
 
     struct Entry {
         Position position;
@@ -173,12 +173,13 @@ class KdTree {
     template <class Term>
     void scan(const Node& node, const Position& position, const Term& term, NearestList& nearest) const {
         std::array<double, leafPoints> squares;
-        for (std::size_t axis = 0; axis < dimensions; ++axis) {
+        const double* first = coordinates_[0].data() + node.begin;
+        for (std::size_t i = 0; i < leafPoints; ++i)
+            squares[i] = term(0, first[i] - position[0]);
+        for (std::size_t axis = 1; axis < dimensions; ++axis) {
             const double* column = coordinates_[axis].data() + node.begin;
-            for (std::size_t i = 0; i < leafPoints; ++i) {
-                const double square = term(axis, column[i] - position[axis]);
-                squares[i] = axis == 0 ? square : squares[i] + square;
-            }
+            for (std::size_t i = 0; i < leafPoints; ++i)
+                squares[i] += term(axis, column[i] - position[axis]);
         }
         for (std::size_t i = node.begin; i < node.end; ++i)
             nearest.offer({squares[i - node.begin], indices_[i]});
