@@ -53,13 +53,17 @@ std::shared_ptr<graphs::Cls9> surface() {
 
 }  // namespace
 
-std::filesystem::path writeLitSurface() {
+void writeLitSurface(const std::filesystem::path& path) {
     core::AppState state;
     fillPanel(state.panel);
     state.ShownGraphs.Graphs.push_back(surface());
     state.TheAxis.Show = true;
-    auto path = std::filesystem::temp_directory_path() / ("tessaplot-lit-" + std::to_string(::getpid()) + ".tsp");
     core::writeDocumentFile(path, core::documentText(core::partsOf(state, state.ShownGraphs)));
+}
+
+std::filesystem::path writeLitSurface() {
+    auto path = std::filesystem::temp_directory_path() / ("tessaplot-lit-" + std::to_string(::getpid()) + ".tsp");
+    writeLitSurface(path);
     return path;
 }
 

@@ -6,11 +6,12 @@
 #include <string>
 
 #include "peerbench/gridding.h"
+#include "peerbench/lit_surface.h"
 #include "peerbench/work.h"
 
 // Runs one workload beside other programs that do the same: prints `ready` when its input is made (`skip` for a
 // workload it does not have), then answers each line `run` with the milliseconds of one run, a tab and a check of the
-// result.
+// result. `document FILE` writes the lit surface that W9 and W10 draw.
 
 namespace tessaplot::bench {
 
@@ -52,11 +53,16 @@ int serve(const std::string& name) {
 }  // namespace tessaplot::bench
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fputs("usage: tessaplot-peerbench W1\n", stderr);
+    const bool wantsDocument = argc == 3 && std::string(argv[1]) == "document";
+    if (argc != 2 && !wantsDocument) {
+        std::fputs("usage: tessaplot-peerbench W1\n       tessaplot-peerbench document FILE\n", stderr);
         return 2;
     }
     try {
+        if (wantsDocument) {
+            tessaplot::bench::writeLitSurface(argv[2]);
+            return 0;
+        }
         return tessaplot::bench::serve(argv[1]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
