@@ -13,7 +13,7 @@ from pixels import share_of_file
 
 ANSWER_LIMIT = 60  # seconds
 SHOWN_LIMIT = 20
-STANDS_STILL = 1.0  # seconds without a change until a picture counts as the last one
+STANDS_STILL = 0.5  # seconds without a change until a picture counts as the last one
 LOOK_EVERY = 0.003
 LEAST_COLOURED = 200  # sampled pixels; a bar of colours or icons have fewer
 SHARE_THAT_STANDS = 0.9

@@ -17,6 +17,7 @@ HEADER_NUMBERS = 25
 HEADER_SIZE, HEADER_BYTES_PER_LINE, HEADER_COLOURS = 0, 12, 19
 BYTES_OF_A_COLOUR = 12
 START_LIMIT = 10  # seconds
+SETTLING = 0.4  # seconds until server and window manager have nothing more to do
 
 
 class Screen:
@@ -56,6 +57,7 @@ class Screen:
             if time.monotonic() > limit:
                 raise RuntimeError("the window manager does not start")
             time.sleep(0.02)
+        time.sleep(SETTLING)
 
     def _map_pixels(self):
         """The file is an X window dump: a header of big-endian numbers, a colour table, then bytes in the order blue,
