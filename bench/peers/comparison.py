@@ -13,9 +13,9 @@ ONE_THREAD = {name: "1" for name in ("OMP_NUM_THREADS", "OPENBLAS_NUM_THREADS", 
 class Entry:
     """A program in the comparison, with its times so far."""
 
-    def __init__(self, contestant):
-        self.contestant = contestant
-        self.times, self.check, self.trouble = [], "", ""
+    def __init__(self, contestant, settings=None, trouble=""):
+        self.contestant, self.settings = contestant, settings or {}
+        self.times, self.check, self.trouble = [], "", trouble
 
     def attempt(self, action):
         """What the action returns, None once the program has failed."""
@@ -40,29 +40,23 @@ def compare(workload, places, packages, rounds):
     missing = packages.missing(workload.needs)
     if missing:
         return [row(workload.name, workload.work, check=not_installed(missing))], []
-    entries = [entry_of(peer, packages) for peer in workload.peers]
     ours = Entry(workload.ours)
-    everybody = [ours] + [entry for entry in entries if not entry.trouble]
-    settings = [{}] + [ONE_THREAD if peer.threads == "1" else {}
-                       for peer, entry in zip(workload.peers, entries) if not entry.trouble]
-    for number, (entry, setting) in enumerate(zip(everybody, settings)):
+    peers = [entry_of(peer, packages) for peer in workload.peers]
+    for number, entry in enumerate([ours] + peers):
         picture = f"{places['scratch']}/{workload.name}-{number}.png"
-        entry.contestant.prepare(places | {"picture": picture}, setting)
+        entry.contestant.prepare(places | {"picture": picture}, entry.settings)
         entry.attempt(entry.contestant.start)
     for turn in range(rounds + 1):
-        for entry in everybody:
+        for entry in [ours] + peers:
             entry.run(timed=turn > 0)
-    for entry in everybody:
+    for entry in [ours] + peers:
         entry.contestant.stop()
-    return report(workload, ours, entries)
+    return report(workload, ours, peers)
 
 
 def entry_of(peer, packages):
-    entry = Entry(peer.contestant)
     missing = packages.missing(peer.packages)
-    if missing:
-        entry.trouble = not_installed(missing)
-    return entry
+    return Entry(peer.contestant, ONE_THREAD if peer.threads == "1" else {}, not_installed(missing) if missing else "")
 
 
 def not_installed(missing):
