@@ -1,5 +1,5 @@
 """What is compared with whom: the table of workloads."""
-from dataclasses import dataclass
+from dataclasses import dataclass, replace
 
 from contestants import Contestant, PictureProcess, Window, Worker
 
@@ -154,11 +154,11 @@ WORKLOADS = [
 ]
 
 
-def chosen(names):
-    """The workloads of these names, all of them if there is none."""
+def chosen(names, word=""):
+    """The workloads of these names, all of them if there is none, with the peers that have the word in their name."""
     wanted = {name.upper() for name in names}
     found = [workload for workload in WORKLOADS if not wanted or wanted & {workload.name, workload.also}]
     unknown = wanted - {name for workload in found for name in (workload.name, workload.also)}
     if unknown:
         raise SystemExit("There is no workload " + ", ".join(sorted(unknown)) + ".")
-    return found
+    return [replace(workload, peers=[peer for peer in workload.peers if word in peer.name]) for workload in found]
