@@ -7,79 +7,60 @@
 namespace tessaplot::expr {
 namespace {
 
-struct Scan {
+/// The postfix text, or the position and the message of the fault.
+std::string scanned(const std::string& formula) {
+    std::string box;
     std::string postfix;
     std::int32_t position = -1;
-    std::string message;
-    std::string box;
-};
-
-Scan scan(const std::string& formula) {
-    Scan result;
     EvaluatorContext context;
     context.report = [&](std::string_view title, std::string_view text) {
-        result.box = std::string(title) + "|" + std::string(text);
+        box = std::string(title) + "|" + std::string(text);
     };
     Cls6 evaluator(context);
-    const bool good = evaluator.InfixToPostfix(formula, result.postfix, result.position);
-    result.message = evaluator.syntaxMessage();
-    EXPECT_EQ(good, result.message.empty());
-    return result;
+    const bool good = evaluator.InfixToPostfix(formula, postfix, position);
+    const std::string message = evaluator.syntaxMessage();
+    const std::string place = std::to_string(position);
+    EXPECT_EQ(box, good ? "" : "Syntax Error|Character " + place + ":  " + message);
+    EXPECT_TRUE(good == message.empty() && (!good || position == 0)) << formula.substr(0, 100);
+    return good ? postfix : place + " " + message;
 }
 
-std::string postfixOf(const std::string& formula) {
-    const Scan result = scan(formula);
-    EXPECT_EQ(result.message, "") << formula;
-    EXPECT_EQ(result.box, "") << formula;
-    EXPECT_EQ(result.position, 0) << formula;
-    return result.postfix;
-}
-
-std::string faultOf(const std::string& formula) {
-    const Scan result = scan(formula);
-    const std::string shown = "Character " + std::to_string(result.position) + ":  " + result.message;
-    EXPECT_EQ(result.box, "Syntax Error|" + shown) << formula;
-    return std::to_string(result.position) + " " + result.message;
-}
-
-TEST(InfixToPostfix, groupsByPriorityAndToTheLeft) {
-    EXPECT_EQ(postfixOf("1+2*3-4"), "1 2 3 * + 4 - ");
-    EXPECT_EQ(postfixOf("2^3^2"), "2 3 ^ 2 ^ ");
-    EXPECT_EQ(postfixOf("8/4/2*(1-(2-3))"), "8 4 / 2 / 1 2 3 - - * ");
-    EXPECT_EQ(postfixOf("sin(x)^2+Cos(u)*t"), "XX SIN 2 ^ UU COS TT * + ");
-    EXPECT_EQ(postfixOf("V+A-R*b/y"), "VV AA + RR BB * YY / - ");
-    EXPECT_EQ(postfixOf("\t1,5 +\n.5 "), "1,5 .5 + ");
-    EXPECT_EQ(postfixOf(""), "");
-    EXPECT_EQ(postfixOf(" \r\n"), "");
-}
-
-TEST(InfixToPostfix, takesASignWhereNoSignOrAdditiveOperatorStands) {
-    EXPECT_EQ(postfixOf("-2^2"), "2 2 ^ (-) ");
-    EXPECT_EQ(postfixOf("2*-3"), "2 3 (-) * ");
-    EXPECT_EQ(postfixOf("2^-3^2"), "2 3 2 ^ (-) ^ ");
-    EXPECT_EQ(postfixOf("-X*Y"), "XX (-) YY * ");
-    EXPECT_EQ(postfixOf("+3"), "3 ");
-    EXPECT_EQ(postfixOf("-(-3)"), "3 (-) (-) ");
-    EXPECT_EQ(postfixOf("SIN -X"), "XX (-) SIN ");
-    for (const char* formula : {"2+-3", "2--3"})
-        EXPECT_EQ(faultOf(formula), "2 Operand expected") << formula;
-    for (const char* formula : {"--3", "-+3"})
-        EXPECT_EQ(faultOf(formula), "1 Operand expected") << formula;
-}
-
-TEST(InfixToPostfix, takesAnOperandNameAfterAFunctionName) {
-    EXPECT_EQ(postfixOf("SIN X"), "XX SIN ");
-    EXPECT_EQ(postfixOf("SIN COS X + 1"), "XX COS SIN 1 + ");
-}
-
-TEST(InfixToPostfix, leavesAsechWaitingForAllThatFollowsInItsGroup) {
-    EXPECT_EQ(postfixOf("ASECH(X)+1"), "XX 1 + ASECH ");
-    EXPECT_EQ(postfixOf("2*(ASECH(X)*3)+1"), "2 XX 3 * ASECH * 1 + ");
-    EXPECT_EQ(postfixOf("ACSECH(X)+1"), "XX ACSECH 1 + ");
+TEST(InfixToPostfix, isWrittenAsPrioritiesSignsAndFunctionsSay) {
+    const std::pair<const char*, const char*> formulas[] = {
+        {"1+2*3-4", "1 2 3 * + 4 - "},
+        {"2^3^2", "2 3 ^ 2 ^ "},
+        {"8/4/2*(1-(2-3))", "8 4 / 2 / 1 2 3 - - * "},
+        {"sin(x)^2+Cos(u)*t", "XX SIN 2 ^ UU COS TT * + "},
+        {"V+A-R*b/y", "VV AA + RR BB * YY / - "},
+        {"\t1,5 +\n.5 ", "1,5 .5 + "},
+        {"", ""},
+        {" \r\n", ""},
+        // A sign where no sign and no additive operator stands.
+        {"-2^2", "2 2 ^ (-) "},
+        {"2*-3", "2 3 (-) * "},
+        {"2^-3^2", "2 3 2 ^ (-) ^ "},
+        {"-X*Y", "XX (-) YY * "},
+        {"+3", "3 "},
+        {"-(-3)", "3 (-) (-) "},
+        {"SIN -X", "XX (-) SIN "},
+        // An operand's name after a function's.
+        {"SIN X", "XX SIN "},
+        {"SIN COS X + 1", "XX COS SIN 1 + "},
+        // ASECH waits for all that follows in its group.
+        {"ASECH(X)+1", "XX 1 + ASECH "},
+        {"2*(ASECH(X)*3)+1", "2 XX 3 * ASECH * 1 + "},
+        {"ACSECH(X)+1", "XX ACSECH 1 + "},
+    };
+    for (const auto& [formula, postfix] : formulas)
+        EXPECT_EQ(scanned(formula), postfix) << formula;
 }
 
 TEST(InfixToPostfix, reportsEveryFaultAtItsRunningPosition) {
     const std::pair<const char*, const char*> faults[] = {
+        {"2+-3", "2 Operand expected"},
+        {"2--3", "2 Operand expected"},
+        {"--3", "1 Operand expected"},
+        {"-+3", "1 Operand expected"},
         {"X Y", "2 Operator expected"},
         {"X1", "0 Operator expected"},
         {"1 2", "0 Operator expected"},
@@ -110,7 +91,7 @@ TEST(InfixToPostfix, reportsEveryFaultAtItsRunningPosition) {
         {"1\xC2\xA0+1", "0 Unexpected character encountered"},
     };
     for (const auto& [formula, fault] : faults)
-        EXPECT_EQ(faultOf(formula), fault) << formula;
+        EXPECT_EQ(scanned(formula), fault) << formula;
 }
 
 TEST(InfixToPostfix, appendsToTheTextAndForgetsAnEarlierFault) {
@@ -128,14 +109,9 @@ TEST(InfixToPostfix, appendsToTheTextAndForgetsAnEarlierFault) {
 
 TEST(InfixToPostfix, readsHugeFormulasInOnePass) {
     const std::size_t depth = 100000;
-    EXPECT_EQ(scan(std::string(depth, '(')).message, "Closing parenthesis expected");
-    EXPECT_EQ(postfixOf(std::string(depth, '(') + "X" + std::string(depth, ')')), "XX ");
-    EXPECT_EQ(scan(std::string(1 << 20, 'a')).position, 0);
-
-    std::string formula = "X";
-    while (formula.size() < (1 << 20))
-        formula += "*-X^2";
-    EXPECT_GT(postfixOf(formula).size(), formula.size());
+    EXPECT_EQ(scanned(std::string(depth, '(')), "100000 Closing parenthesis expected");
+    EXPECT_EQ(scanned(std::string(depth, '(') + "X" + std::string(depth, ')')), "XX ");
+    EXPECT_EQ(scanned(std::string(1 << 20, 'a')).substr(0, 20), "0 Undefined symbol :");
 }
 
 }  // namespace

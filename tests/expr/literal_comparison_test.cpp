@@ -131,13 +131,12 @@ class Comparison {
         context_.ShowEvalErrors = showErrors;
         message_.clear();
         tests::LiteralEvaluator literal(showErrors, random_);
-        std::string plain = outcomeOf([&](double& result) { return literal.evaluate(postfix, degrees, result, v); });
-        plain += literal.message();
-        std::string compiled = outcomeOf([&](double& result) {
+        const std::string plain =
+            outcomeOf([&](double& result) { return literal.evaluate(postfix, degrees, result, v); });
+        const std::string compiled = outcomeOf([&](double& result) {
             return evaluator_.DoEvaluate(postfix, degrees, result, v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7]);
         });
-        compiled += message_;
-        EXPECT_EQ(compiled, plain) << postfix << (degrees ? "in degrees" : "");
+        EXPECT_EQ(compiled + message_, plain + literal.message()) << postfix << (degrees ? "in degrees" : "");
         return compiled;
     }
 

@@ -2,8 +2,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <type_traits>
-#include <variant>
 
 #include "expr/evaluator_error.h"
 
@@ -15,13 +13,16 @@ namespace {
 struct Fail {
     const char* text;
 };
-constexpr Fail valueFailure{""};
+constexpr Fail silent{""};
 constexpr Fail division{"Devision by zero."};
 constexpr Fail illegal{"The expression is illegal."};
 constexpr Fail squareRoot{"The parameter of function SQR must larger than or equal to 0."};
 constexpr Fail logarithm{"The parameter of function LOG must larger than 0."};
-constexpr Fail power{"A^B, B must be a long if A is negative."};
+constexpr Fail wholePower{"A^B, B must be a long if A is negative."};
 
+constexpr std::string_view functions =
+    " SIN COS TAN SEC CSEC CTAN ATAN LOG EXP ABS INT SQR RND (-) ASIN ACOS ASEC ACSEC ACTAN SINH COSH TANH CTANH SECH "
+    "CSECH ASINH ACOSH ATANH ASECH ACSECH ACTANH ";
 constexpr double pi = 3.1416;
 const double q = std::atan(1.0);
 
@@ -29,8 +30,22 @@ int Sgn(double x) {
     return x > 0 ? 1 : x < 0 ? -1 : 0;
 }
 
-void require(bool holds, Fail failure) {
+double valueIf(bool holds, Fail failure, double value) {
     if (!holds) throw failure;
+    return value;
+}
+
+double inverseOf(double x) {
+    return valueIf(x != 0, division, 1 / x);
+}
+
+double logOf(bool holds, double x) {
+    return valueIf(holds && !(x <= 0), silent, std::log(x));
+}
+
+double powerOf(double a, double b) {
+    if (b == 0) return 1;
+    return valueIf(a >= 0 || (a < 0 && b == std::floor(b)), wholePower, std::pow(a, b));
 }
 
 double numberPrefix(std::string_view token) {
@@ -42,20 +57,16 @@ double numberPrefix(std::string_view token) {
     return std::strtod(digits.c_str(), nullptr);
 }
 
-bool isOneOf(std::string_view name, std::string_view list) {
-    return (" " + std::string(list) + " ").find(" " + std::string(name) + " ") != std::string::npos;
-}
-
 }  // namespace
 
 bool LiteralEvaluator::evaluate(std::string_view postfix, bool degrees, double& result, const Variables& variables) {
     degrees_ = degrees;
-    stack_ = {};
+    stack_.clear();
     message_.clear();
     try {
         while (!postfix.empty()) {
             const std::size_t blank = postfix.find(' ');
-            token(postfix.substr(0, blank), variables);
+            stack_.push_back(valueOf(postfix.substr(0, blank), variables));
             postfix = blank == std::string_view::npos ? "" : postfix.substr(blank + 1);
         }
     } catch (const Fail& failure) {
@@ -66,132 +77,79 @@ bool LiteralEvaluator::evaluate(std::string_view postfix, bool degrees, double& 
         result = 0.12345;
         return true;
     }
-    if (stack_.StackSize() == 0) return false;
-    result = popNumber();
+    if (stack_.empty()) return false;
+    result = pop();
     return true;
 }
 
-void LiteralEvaluator::token(std::string_view token, const Variables& variables) {
+double LiteralEvaluator::valueOf(std::string_view token, const Variables& variables) {
     constexpr std::string_view names = "UVXYARBT";
-    if (!token.empty() && std::string_view("1234567890.,").find(token[0]) != std::string_view::npos) {
-        stack_.Push(numberPrefix(token));
-    } else if (token.size() == 1 && std::string_view("+-*/^").find(token[0]) != std::string_view::npos) {
-        binary(token[0]);
-    } else if (token == "(-)") {
-        stack_.Push(-popNumber());
-    } else if (token.size() == 2 && token[0] == token[1] && names.find(token[0]) != std::string_view::npos) {
-        stack_.Push(expr::Cls13::Reference{&variables[names.find(token[0])]});
-    } else {
-        function(token);
+    const auto startsWithOneOf = [&](std::string_view list) {
+        return !token.empty() && list.find(token[0]) != std::string_view::npos;
+    };
+    if (startsWithOneOf("1234567890.,")) return numberPrefix(token);
+    if (token.size() == 2 && token[0] == token[1] && startsWithOneOf(names)) return variables[names.find(token[0])];
+    if (token.size() == 1 && startsWithOneOf("+-*/^")) {
+        const double b = pop();
+        const double a = pop();
+        if (token == "+") return a + b;
+        if (token == "-") return a - b;
+        if (token == "*") return a * b;
+        if (token == "/") return valueIf(b != 0, division, a / b);
+        return powerOf(a, b);
     }
+    if (functions.find(" " + std::string(token) + " ") == std::string_view::npos)
+        throw expr::EvaluatorError(expr::badTokenNumber, "Bad token in Evaluate: " + std::string(token));
+    return function(token, pop());
 }
 
-void LiteralEvaluator::binary(char operation) {
-    const double b = popNumber();
-    const double a = popNumber();
-    if (operation == '+') stack_.Push(a + b);
-    if (operation == '-') stack_.Push(a - b);
-    if (operation == '*') stack_.Push(a * b);
-    if (operation == '/') {
-        require(b != 0, division);
-        stack_.Push(a / b);
-    }
-    if (operation == '^') {
-        if (b == 0) {
-            stack_.Push(std::int16_t{1});
-        } else {
-            require(a >= 0 || (a < 0 && b == std::floor(b)), power);
-            stack_.Push(std::pow(a, b));
-        }
-    }
-}
-
-void LiteralEvaluator::function(std::string_view name) {
-    if (isOneOf(name, "SIN COS TAN SEC CSEC CTAN ATAN")) {
-        const double x = popNumber();
-        direct(name, degrees_ ? x * pi / 180 : x);
-    } else if (isOneOf(name, "LOG EXP ABS INT SQR RND")) {
-        const double x = popNumber();
-        require(name != "LOG" || !(x <= 0), logarithm);
-        require(name != "SQR" || !(x < 0), squareRoot);
-        if (name == "LOG") stack_.Push(std::log(x));
-        if (name == "EXP") stack_.Push(std::exp(x));
-        if (name == "ABS") stack_.Push(std::fabs(x));
-        if (name == "INT") stack_.Push(std::floor(x));
-        if (name == "SQR") stack_.Push(std::sqrt(x));
-        if (name == "RND") stack_.Push(random_.next());
-    } else if (isOneOf(name, "ASIN ACOS ASEC ACSEC ACTAN")) {
-        inverse(name, popNumber());
-    } else if (isOneOf(name, "SINH COSH TANH CTANH SECH CSECH")) {
-        hyperbolic(name, popNumber());
-    } else if (isOneOf(name, "ASINH ACOSH ATANH ASECH ACSECH ACTANH")) {
-        area(name, popNumber());
-    } else {
-        throw expr::EvaluatorError(expr::badTokenNumber, "Bad token in Evaluate: " + std::string(name));
-    }
-}
-
-void LiteralEvaluator::direct(std::string_view name, double x) {
-    if (name == "ATAN") return stack_.Push(std::atan(x));
-    const bool isSine = name == "SIN" || name == "CSEC";
-    const bool isCosine = name == "COS" || name == "SEC";
-    const double value = isSine ? std::sin(x) : isCosine ? std::cos(x) : std::tan(x);
-    const bool isInverse = isOneOf(name, "SEC CSEC CTAN");
-    require(!isInverse || value != 0, division);
-    stack_.Push(isInverse ? 1 / value : value);
-}
-
-void LiteralEvaluator::inverse(std::string_view name, double x) {
-    if (name == "ACTAN") return stack_.Push(std::atan(x) + 2 * q);
-    if (name == "ASIN" && std::fabs(x) == 1) return stack_.Push(x * pi / 2);
-    if (name == "ACOS" && x == -1) return stack_.Push(pi);
-    if (name == "ACOS" && x == 1) return stack_.Push(std::int16_t{0});
-    const bool isSecant = name == "ASEC" || name == "ACSEC";
-    const double rest = isSecant ? x * x - 1 : 1 - x * x;
-    require(!(isSecant ? rest <= 0 : rest < 0), illegal);
-    if (name == "ASIN") stack_.Push(std::atan(x / std::sqrt(rest)));
-    if (name == "ACOS") stack_.Push(std::atan(-x / std::sqrt(rest)) + 2 * q);
-    if (name == "ASEC") stack_.Push(std::atan(x / std::sqrt(rest)) + Sgn(x - 1) * 2 * q);
-    if (name == "ACSEC") stack_.Push(std::atan(x / std::sqrt(rest)) + (Sgn(x) - 1) * 2 * q);
-}
-
-void LiteralEvaluator::hyperbolic(std::string_view name, double x) {
+double LiteralEvaluator::function(std::string_view name, double x) {
+    const double angle = degrees_ ? x * pi / 180 : x;
     const double sum = std::exp(x) + std::exp(-x);
     const double difference = std::exp(x) - std::exp(-x);
-    require(!isOneOf(name, "CTANH CSECH") || difference != 0, valueFailure);
-    if (name == "SINH") stack_.Push(difference / 2);
-    if (name == "COSH") stack_.Push(sum / 2);
-    if (name == "TANH") stack_.Push(difference / sum);
-    if (name == "CTANH") stack_.Push(sum / difference);
-    if (name == "SECH") stack_.Push(2 / sum);
-    if (name == "CSECH") stack_.Push(2 / difference);
+    const double above = x * x - 1;
+    const double below = 1 - x * x;
+    if (name == "(-)") return -x;
+    if (name == "LOG") return valueIf(!(x <= 0), logarithm, std::log(x));
+    if (name == "EXP") return std::exp(x);
+    if (name == "ABS") return std::fabs(x);
+    if (name == "INT") return std::floor(x);
+    if (name == "SQR") return valueIf(!(x < 0), squareRoot, std::sqrt(x));
+    if (name == "RND") return random_.next();
+    if (name == "SIN") return std::sin(angle);
+    if (name == "COS") return std::cos(angle);
+    if (name == "TAN") return std::tan(angle);
+    if (name == "SEC") return inverseOf(std::cos(angle));
+    if (name == "CSEC") return inverseOf(std::sin(angle));
+    if (name == "CTAN") return inverseOf(std::tan(angle));
+    if (name == "ATAN") return std::atan(angle);
+    if (name == "ACTAN") return std::atan(x) + 2 * q;
+    if (name == "ASIN" && std::fabs(x) == 1) return x * pi / 2;
+    if (name == "ASIN") return valueIf(!(below < 0), illegal, std::atan(x / std::sqrt(below)));
+    if (name == "ACOS" && std::fabs(x) == 1) return x == 1 ? 0 : pi;
+    if (name == "ACOS") return valueIf(!(below < 0), illegal, std::atan(-x / std::sqrt(below)) + 2 * q);
+    const double secant = std::atan(x / std::sqrt(above));
+    if (name == "ASEC") return valueIf(!(above <= 0), illegal, secant + Sgn(x - 1) * 2 * q);
+    if (name == "ACSEC") return valueIf(!(above <= 0), illegal, secant + (Sgn(x) - 1) * 2 * q);
+    if (name == "SINH") return difference / 2;
+    if (name == "COSH") return sum / 2;
+    if (name == "TANH") return difference / sum;
+    if (name == "CTANH") return valueIf(difference != 0, silent, sum / difference);
+    if (name == "SECH") return 2 / sum;
+    if (name == "CSECH") return valueIf(difference != 0, silent, 2 / difference);
+    if (name == "ASINH") return logOf(true, x + std::sqrt(x * x + 1));
+    if (name == "ACOSH") return logOf(!(above < 0), x + std::sqrt(above));
+    if (name == "ATANH") return logOf(x != 1, (x + 1) / (1 - x)) / 2;
+    if (name == "ASECH") return logOf(x != 0 && !(below < 0), (std::sqrt(below) + 1) / x);
+    if (name == "ACSECH") return logOf(x != 0, (Sgn(x) * std::sqrt(x * x + 1) + 1) / x);
+    return logOf(x != 1, (x + 1) / (x - 1)) / 2;  // ACTANH
 }
 
-void LiteralEvaluator::area(std::string_view name, double x) {
-    require(!isOneOf(name, "ATANH ACTANH") || x != 1, valueFailure);
-    require(!isOneOf(name, "ASECH ACSECH") || x != 0, valueFailure);
-    require(!(name == "ACOSH" && x * x - 1 < 0) && !(name == "ASECH" && 1 - x * x < 0), valueFailure);
-    double argument = 0;
-    if (name == "ASINH") argument = x + std::sqrt(x * x + 1);
-    if (name == "ACOSH") argument = x + std::sqrt(x * x - 1);
-    if (name == "ATANH") argument = (x + 1) / (1 - x);
-    if (name == "ASECH") argument = (std::sqrt(1 - x * x) + 1) / x;
-    if (name == "ACSECH") argument = (Sgn(x) * std::sqrt(x * x + 1) + 1) / x;
-    if (name == "ACTANH") argument = (x + 1) / (x - 1);
-    require(!(argument <= 0), valueFailure);
-    const double value = std::log(argument);
-    stack_.Push(isOneOf(name, "ATANH ACTANH") ? value / 2 : value);
-}
-
-double LiteralEvaluator::popNumber() {
-    return std::visit(
-        [](const auto& value) -> double {
-            if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>)
-                return static_cast<double>(value);
-            else
-                return std::nan("");
-        },
-        stack_.Pop());
+double LiteralEvaluator::pop() {
+    if (stack_.empty()) throw expr::EvaluatorError(expr::popOnEmptyNumber, expr::popOnEmptyText);
+    const double top = stack_.back();
+    stack_.pop_back();
+    return top;
 }
 
 }  // namespace tessaplot::tests

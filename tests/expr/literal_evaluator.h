@@ -3,14 +3,13 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "expr/random_sequence.h"
-#include "expr/value_stack.h"
 
 namespace tessaplot::tests {
 
-/// The plain form of an evaluation: walks the postfix text token by token, with every value on the stack of mixed
-/// kinds.
+/// The plain form of an evaluation: walks the postfix text token by token, with every value on a stack.
 class LiteralEvaluator {
  public:
     using Variables = std::array<double, 8>;
@@ -22,19 +21,14 @@ class LiteralEvaluator {
     const std::string& message() const { return message_; }
 
  private:
-    void token(std::string_view token, const Variables& variables);
-    void binary(char operation);
-    void function(std::string_view name);
-    void direct(std::string_view name, double x);
-    void hyperbolic(std::string_view name, double x);
-    void inverse(std::string_view name, double x);
-    void area(std::string_view name, double x);
-    double popNumber();
+    double valueOf(std::string_view token, const Variables& variables);
+    double function(std::string_view name, double x);
+    double pop();
 
     bool showErrors_;
     expr::RandomSequence& random_;
     bool degrees_ = false;
-    expr::Cls13 stack_;
+    std::vector<double> stack_;
     std::string message_;
 };
 

@@ -10,22 +10,15 @@
 namespace tessaplot::scene {
 namespace {
 
-Cls2 marker(int symbol, double size) {
+/// The marker of the given size, at (-1, 4, -2) in the plane of a flat scene.
+gl::DisplayList drawn(int symbol, double size, int sceneMode) {
     Cls2 point = Cls2::init(3, 5, 7);
     point.Symbol = static_cast<std::int16_t>(symbol);
     point.Color = base::packColor(255, 51, 0);
     point.size = size;
-    return point;
-}
-
-gl::DisplayList drawn(const Cls2& point, int sceneMode) {
     gl::DisplayList list;
     point.Draw(list, SceneState{sceneMode, 1, 2, 4});
     return list;
-}
-
-std::string drawnText(const Cls2& point, int sceneMode) {
-    return gl::toText(drawn(point, sceneMode));
 }
 
 using Vertex = std::array<double, 3>;
@@ -40,37 +33,33 @@ std::vector<Vertex> verticesOf(const gl::DisplayList& list) {
 }
 
 TEST(Point, isASphereOutsideFlatScenesWhateverItsSymbol) {
-    const std::string sphere =
-        "glPushMatrix\nglColor3f 1 0.2 0\nglTranslatef 2 3 3\ngluNewQuadric\ngluSphere 0.1 8 8\ngluDeleteQuadric\n"
-        "glPopMatrix\n";
     for (const int symbol : {0, 1, 6, 9})
         for (const int mode : {mode3D, mode4D, 6})
-            EXPECT_EQ(drawnText(marker(symbol, 2), mode), sphere);
-    EXPECT_EQ(Cls2::init(0, 0, 0).size, 0.15);
+            EXPECT_EQ(gl::toText(drawn(symbol, 2, mode)),
+                      "glPushMatrix\nglColor3f 1 0.2 0\nglTranslatef 2 3 3\ngluNewQuadric\ngluSphere 0.1 8 8\n"
+                      "gluDeleteQuadric\nglPopMatrix\n");
 }
 
 TEST(Point, isAFlatSymbolInFlatScenes) {
-    const auto wrapped = [](const std::string& body) {
-        return "glPushMatrix\nglColor3f 1 0.2 0\n" + body + "glEnd\nglPopMatrix\n";
-    };
-    const double size = 20;  // square of half side 1, triangle and diamond of reach 1.5, round the point (-1, 4)
-    EXPECT_EQ(drawnText(marker(3, size), mode2D), wrapped("glBegin GL_QUADS\nglVertex3d -2 5 -2\nglVertex3d -2 3 -2\n"
-                                                          "glVertex3d 0 3 -2\nglVertex3d 0 5 -2\n"));
-    EXPECT_EQ(drawnText(marker(4, size), 1), wrapped("glBegin GL_TRIANGLES\nglVertex3d -1 5.5 -2\n"
-                                                     "glVertex3d -2.5 2.5 -2\nglVertex3d 0.5 2.5 -2\n"));
-    EXPECT_EQ(drawnText(marker(5, size), 4), wrapped("glBegin GL_QUADS\nglVertex3d -1 5.5 -2\nglVertex3d -2.5 4 -2\n"
-                                                     "glVertex3d -1 2.5 -2\nglVertex3d 0.5 4 -2\n"));
-    EXPECT_EQ(drawnText(marker(6, size), mode2D),
-              wrapped("glLineWidth 20\nglBegin GL_LINES\nglVertex3d -1 5.5 -2\nglVertex3d -1 2.5 -2\nglEnd\n"
-                      "glBegin GL_LINES\nglVertex3d -2.5 4 -2\nglVertex3d 0.5 4 -2\n"));
-    Cls2 shown = marker(0, size);
-    shown.Show = true;
-    EXPECT_EQ(drawnText(shown, mode2D), "glPushMatrix\nglPopMatrix\n");
+    // A square of half side 1, a triangle, a diamond and a cross of reach 1.5.
+    const std::pair<int, std::vector<std::string>> symbols[] = {
+        {3, {"glBegin GL_QUADS", "-2 5", "-2 3", "0 3", "0 5"}},
+        {4, {"glBegin GL_TRIANGLES", "-1 5.5", "-2.5 2.5", "0.5 2.5"}},
+        {5, {"glBegin GL_QUADS", "-1 5.5", "-2.5 4", "-1 2.5", "0.5 4"}},
+        {6, {"glLineWidth 20\nglBegin GL_LINES", "-1 5.5", "-1 2.5", "glEnd\nglBegin GL_LINES", "-2.5 4", "0.5 4"}}};
+    for (const auto& [symbol, lines] : symbols) {
+        std::string text = "glPushMatrix\nglColor3f 1 0.2 0\n";
+        for (const std::string& line : lines)
+            text += line[0] == 'g' ? line + "\n" : "glVertex3d " + line + " -2\n";
+        for (const int mode : {mode2D, 1, 4})
+            EXPECT_EQ(gl::toText(drawn(symbol, 20, mode)), text + "glEnd\nglPopMatrix\n");
+    }
+    for (const int symbol : {0, 7})
+        EXPECT_EQ(gl::toText(drawn(symbol, 20, mode2D)), "glPushMatrix\nglPopMatrix\n");
 }
 
 TEST(Point, discClosesByOverlapAndTheRingHasAWhiteMiddle) {
-    const gl::DisplayList disc = drawn(marker(1, 20), mode2D);
-    const auto triangles = verticesOf(disc);
+    const std::vector<Vertex> triangles = verticesOf(drawn(1, 20, mode2D));
     ASSERT_EQ(triangles.size(), 60U);
     double turn = 0;
     for (std::size_t i = 0; i < triangles.size(); i += 3) {
@@ -81,12 +70,13 @@ TEST(Point, discClosesByOverlapAndTheRingHasAWhiteMiddle) {
     }
     EXPECT_NEAR(turn, 6.2832, 1e-9);
 
-    const std::string ring = drawnText(marker(2, 20), mode2D);
-    EXPECT_EQ(ring.find("glPushMatrix\nglColor3f 1 0.2 0\nglLineWidth 20\nglBegin GL_LINES\nglVertex3d 0 4 -2\n"), 0U);
-    EXPECT_NE(ring.find("glEnd\nglColor3f 1 1 1\nglBegin GL_TRIANGLES\n"), std::string::npos);
-    const auto ringVertices = verticesOf(drawn(marker(2, 20), mode2D));
-    ASSERT_EQ(ringVertices.size(), 40U + 60U);
-    EXPECT_DOUBLE_EQ(ringVertices[41][0], -1 + 0.8);
+    const gl::DisplayList ring = drawn(2, 20, mode2D);
+    const std::string text = gl::toText(ring);
+    EXPECT_TRUE(
+        text.starts_with("glPushMatrix\nglColor3f 1 0.2 0\nglLineWidth 20\nglBegin GL_LINES\nglVertex3d 0 4 -2\n"));
+    EXPECT_NE(text.find("glEnd\nglColor3f 1 1 1\nglBegin GL_TRIANGLES\n"), std::string::npos);
+    ASSERT_EQ(verticesOf(ring).size(), 40U + 60U);
+    EXPECT_DOUBLE_EQ(verticesOf(ring)[41][0], -1 + 0.8);
 }
 
 }  // namespace
