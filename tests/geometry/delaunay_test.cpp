@@ -14,7 +14,6 @@
 
 #include "base/failure.h"
 #include "geometry/circle_index.h"
-#include "geometry/edge_cancellation.h"
 #include "geometry/plain_delaunay.h"
 #include "geometry/point_clouds.h"
 
@@ -77,40 +76,6 @@ TEST(Delaunay, FillsTheListToItsLimitAndFailsBeyond) {
     EXPECT_EQ(failureOf(5000, tooMany.x, tooMany.y), FailureCode::SubscriptOutOfRange);
 }
 
-TEST(Delaunay, HasEmptyCirclesAndCoversTheHullOnce) {
-    std::vector<Place> places;
-    for (int i = -10; i < 10; ++i)
-        for (const Place& place : {Place(i, -10), Place(10, i), Place(-i, 10), Place(-10, -i)})
-            places.push_back(place);
-    const std::size_t hull = places.size();
-    const PointCloud inner = test::cloudOf(test::layouts[0], 900, 3);
-    for (std::size_t i = 1; i <= 900; ++i)
-        places.emplace_back(0.94 * inner.x[i], 0.94 * inner.y[i]);
-    PointCloud cloud(places);
-    const Triangulation result = Triangulate(cloud.n(), cloud.x, cloud.y);
-
-    double area = 0;
-    for (const auto& [a, b, c] : result.triangles) {
-        const std::size_t corners[] = {static_cast<std::size_t>(a), static_cast<std::size_t>(b),
-                                       static_cast<std::size_t>(c)};
-        const auto side = [&](int i) { return cloud.x[corners[i]] - cloud.x[corners[0]]; };
-        const auto rise = [&](int i) { return cloud.y[corners[i]] - cloud.y[corners[0]]; };
-        const double twice = side(1) * rise(2) - side(2) * rise(1);
-        area += std::abs(twice) / 2;
-        const double square1 = side(1) * side(1) + rise(1) * rise(1);
-        const double square2 = side(2) * side(2) + rise(2) * rise(2);
-        const double centreX = (rise(2) * square1 - rise(1) * square2) / (2 * twice);
-        const double centreY = (side(1) * square2 - side(2) * square1) / (2 * twice);
-        const double radius = std::hypot(centreX, centreY);
-        for (std::size_t i = 1; i <= places.size(); ++i)
-            ASSERT_GT(
-                std::hypot(cloud.x[i] - cloud.x[corners[0]] - centreX, cloud.y[i] - cloud.y[corners[0]] - centreY),
-                radius * (1 - 1e-9));
-    }
-    EXPECT_NEAR(area, 400, 1e-9);
-    EXPECT_EQ(result.triangles.size(), 2 * places.size() - 2 - hull);
-}
-
 TEST(Delaunay, RoundsItsBoundsToEvenAndWritesTheEnclosingCorners) {
     PointCloud cloud({{0.5, 1.5}, {2.5, -0.5}, {5.4, 3.5}});
     const Triangulation result = Triangulate(3, cloud.x, cloud.y);
@@ -169,28 +134,6 @@ TEST(InCircle, ReportsTriplesWithoutACircleAndLeavesItsResults) {
     EXPECT_FALSE(InCircle(0, 1, 0, 0, 1e-200, 1, 0, 3, xc, yc, r, reports));  // A circle beyond all numbers.
     EXPECT_THAT((std::tuple(xc, yc, r, reports)), testing::FieldsAre(-1, -2, -3, 4));
     EXPECT_TRUE(InCircle(1, 0, 0, 0, 1, 1.1e-6, 2, 0, xc, yc, r, reports));
-}
-
-TEST(EdgeCancellation, LeavesWhatALookForwardFromEachEdgeLeaves) {
-    std::mt19937_64 random(5);
-    EdgeCancellation edges;
-    for (int round = 0; round < 200; ++round) {
-        edges.clear();
-        std::vector<std::pair<int, int>> plain;
-        for (int i = 0; i < round; ++i) {
-            const int start = 1 + static_cast<int>(random() % 5);
-            plain.emplace_back(start, 1 + (start + static_cast<int>(random() % 4)) % 5);
-            edges.add(plain.back().first, plain.back().second);
-        }
-        for (std::size_t j = 0; j < plain.size(); ++j)
-            for (std::size_t k = j + 1; k < plain.size(); ++k)
-                if (plain[j].first != 0 && plain[j] == std::pair(plain[k].second, plain[k].first))
-                    plain[j] = plain[k] = {0, 0};
-        std::erase(plain, std::pair(0, 0));
-        std::vector<std::pair<int, int>> left;
-        edges.forEachLeft([&](const Edge& edge) { left.emplace_back(edge.start, edge.end); });
-        ASSERT_EQ(left, plain);
-    }
 }
 
 TEST(CircleIndex, FindsExactlyTheCirclesThatHoldAPointWhateverTheirSize) {

@@ -59,38 +59,23 @@ int expectSameAsPlain(const Volume& volume, double level, const std::string& nam
     return fast.second >= 0 ? -1 : static_cast<int>(fast.first.size());
 }
 
-FailureCode failureOf(const Volume& volume, double level) {
-    try {
-        surfaceOf(volume, level);
-    } catch (const base::Failure& failure) {
-        return failure.code();
-    }
-    ADD_FAILURE() << "no failure";
-    return {};
+int failureOf(const Volume& volume, double level) {
+    return outcomeOf([&] { return trianglesOf(surfaceOf(volume, level)); }).second;
 }
 
 /// One of `values` at each node.
-class AnyOf {
- public:
-    AnyOf(unsigned seed, std::vector<double> values) : random_(seed), values_(std::move(values)) {}
-    double operator()(double, double, double) {
-        return values_[std::uniform_int_distribution<std::size_t>(0, values_.size() - 1)(random_)];
-    }
-
- private:
-    std::mt19937 random_;
-    std::vector<double> values_;
-};
+auto anyOf(unsigned seed, std::vector<double> values) {
+    return [random = std::mt19937(seed), values = std::move(values)](double, double, double) mutable {
+        return values[std::uniform_int_distribution<std::size_t>(0, values.size() - 1)(random)];
+    };
+}
 
 /// A number from -1 to 1 at each node: every second face is a saddle.
-class Noise {
- public:
-    explicit Noise(unsigned seed) : random_(seed) {}
-    double operator()(double, double, double) { return std::uniform_real_distribution<double>(-1, 1)(random_); }
-
- private:
-    std::mt19937 random_;
-};
+auto noise(unsigned seed) {
+    return [random = std::mt19937(seed)](double, double, double) mutable {
+        return std::uniform_real_distribution<double>(-1, 1)(random);
+    };
+}
 
 double dentedBall(double x, double y, double z) {
     return std::sqrt(x * x + y * y + z * z) + 0.05 * std::sin(6 * x) * std::sin(6 * y) * std::sin(6 * z);
@@ -98,20 +83,12 @@ double dentedBall(double x, double y, double z) {
 
 TEST(IsoSurface, IsThePlainOneOnSmoothAndOnNoisyFields) {
     int triangles = 0;
-    for (const auto& [i, j, k] : std::vector<std::array<int, 3>>{{1, 1, 1},
-                                                                 {1, 5, 3},
-                                                                 {30, 4, 2},
-                                                                 {31, 3, 5},
-                                                                 {32, 5, 4},
-                                                                 {63, 3, 3},
-                                                                 {64, 3, 3},
-                                                                 {65, 2, 7},
-                                                                 {100, 6, 5},
-                                                                 {7, 100, 4},
-                                                                 {3, 8, 100}}) {
+    constexpr int sizes[][3] = {{1, 1, 1},  {1, 5, 3},  {30, 4, 2},  {31, 3, 5},  {32, 5, 4}, {63, 3, 3},
+                                {64, 3, 3}, {65, 2, 7}, {100, 6, 5}, {7, 100, 4}, {3, 8, 100}};
+    for (const auto& [i, j, k] : sizes) {
         const std::string name = std::to_string(i) + "x" + std::to_string(j) + "x" + std::to_string(k);
         for (const double level : {0.0, 0.3, -0.9})
-            triangles += expectSameAsPlain(Volume(i, j, k, 1).fill(Noise(7)), level, name);
+            triangles += expectSameAsPlain(Volume(i, j, k, 1).fill(noise(7)), level, name);
         triangles += expectSameAsPlain(Volume(i, j, k).fill(dentedBall), 0.85, name);
     }
     EXPECT_GT(triangles, 10000);
@@ -121,9 +98,9 @@ TEST(IsoSurface, IsThePlainOneWhereValuesMeetTheLevelOrItsNegative) {
     int triangles = 0;
     for (unsigned seed = 0; seed < 200; ++seed) {
         const std::string name = std::to_string(seed);
-        triangles += expectSameAsPlain(Volume(5, 4, 6).fill(AnyOf(seed, {-1, -0.5, 0.5, 0.5, 1.25})), 0.5, name);
-        triangles += expectSameAsPlain(Volume(4, 6, 5).fill(AnyOf(seed, {-1.5, -0.5, 0, 0.75})), -0.5, name);
-        triangles += expectSameAsPlain(Volume(3, 3, 3).fill(AnyOf(seed, {1, 1 + 1e-12, 1 + 1e-7})), 1 + 1e-9, name);
+        triangles += expectSameAsPlain(Volume(5, 4, 6).fill(anyOf(seed, {-1, -0.5, 0.5, 0.5, 1.25})), 0.5, name);
+        triangles += expectSameAsPlain(Volume(4, 6, 5).fill(anyOf(seed, {-1.5, -0.5, 0, 0.75})), -0.5, name);
+        triangles += expectSameAsPlain(Volume(3, 3, 3).fill(anyOf(seed, {1, 1 + 1e-12, 1 + 1e-7})), 1 + 1e-9, name);
     }
     EXPECT_GT(triangles, 10000);
 }
@@ -135,7 +112,7 @@ TEST(IsoSurface, IsThePlainOneOnFieldsWithNodesWithoutData) {
         for (int more = 0; more < 4; ++more)
             values.insert(values.end(), values.begin(), values.begin() + 7);
         Volume volume(40, 5, 6);
-        volume.fill(AnyOf(seed, values));
+        volume.fill(anyOf(seed, values));
         triangles += expectSameAsPlain(volume, 0.1, std::to_string(seed));
         volume.X(20, 2, 3) = notANumber;
         volume.Y(7, 1, 0) = 0.12345;
@@ -153,93 +130,19 @@ TEST(IsoSurface, IsThePlainOneInAnyUnitOfTheValues) {
     }
 }
 
-/// How often each edge is met, from its first to its second vertex.
-std::map<std::pair<std::uint32_t, std::uint32_t>, int> directedEdges(const IsoMesh& mesh) {
-    std::map<std::pair<std::uint32_t, std::uint32_t>, int> count;
-    for (const auto& [a, b, c] : mesh.triangles)
-        for (const auto& edge : {std::pair(a, b), std::pair(b, c), std::pair(c, a)})
-            ++count[edge];
-    return count;
-}
-
-void expectClosed(const IsoMesh& mesh, const std::string& name) {
-    const auto edges = directedEdges(mesh);
-    EXPECT_TRUE(std::all_of(edges.begin(), edges.end(), [&](const auto& entry) {
-        const auto& [edge, count] = entry;
-        const auto back = edges.find({edge.second, edge.first});
-        return count == 1 && back != edges.end() && back->second == 1;
-    })) << name;
-}
-
 TEST(IsoSurface, IsClosedWhereTheFieldIs) {
-    expectClosed(surfaceOf(Volume(40, 41, 42).fill(dentedBall), 0.85), "ball");
     for (unsigned seed = 0; seed < 40; ++seed) {
-        Noise noise(seed);
-        const auto walled = [&](double x, double y, double z) {
-            return std::max({std::abs(x), std::abs(y), std::abs(z)}) > 0.99 ? 2 : noise(x, y, z);
+        auto walled = [inner = noise(seed)](double x, double y, double z) mutable {
+            return std::max({std::abs(x), std::abs(y), std::abs(z)}) > 0.99 ? 2 : inner(x, y, z);
         };
         const IsoMesh mesh = surfaceOf(Volume(9, 8, 7).fill(walled), 0.1);
         EXPECT_GT(mesh.triangles.size(), 300U);
-        expectClosed(mesh, std::to_string(seed));
-    }
-}
-
-IsoPoint minus(const IsoPoint& a, const IsoPoint& b) {
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-
-double dot(const IsoPoint& a, const IsoPoint& b) {
-    return double(a.x) * b.x + double(a.y) * b.y + double(a.z) * b.z;
-}
-
-IsoPoint cross(const IsoPoint& a, const IsoPoint& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
-TEST(IsoSurface, OfTheDistanceIsABallWhoseNormalsPointInwardsAndTurnOneWay) {
-    const auto distance = [](double x, double y, double z) { return std::sqrt(x * x + y * y + z * z); };
-    const IsoMesh mesh = surfaceOf(Volume(50, 50, 50).fill(distance), 0.8);
-    for (const auto& [normal, position] : mesh.vertices) {
-        EXPECT_NEAR(std::sqrt(dot(position, position)), 0.8, 2e-3);
-        EXPECT_NEAR(dot(normal, normal), 1, 1e-6);
-        EXPECT_LT(dot(normal, position) / 0.8, -0.98);
-    }
-    double area = 0;
-    for (const auto& [a, b, c] : trianglesOf(mesh)) {
-        const IsoPoint twice = cross(minus(b.position, a.position), minus(c.position, a.position));
-        EXPECT_GE(dot(twice, a.normal), 0);
-        area += 0.5 * std::sqrt(dot(twice, twice));
-    }
-    EXPECT_NEAR(area, 4 * 3.14159265 * 0.64, 0.01);
-}
-
-TEST(IsoSurface, LosesOnlyTheCellsRoundANodeWithoutData) {
-    Volume volume(20, 20, 20);
-    volume.fill(dentedBall);
-    const std::vector<IsoTriangle> whole = trianglesOf(surfaceOf(volume, 0.5));
-    const int at = 15;
-    const double value = volume.V(at, 10, 10);
-    ASSERT_LT(std::abs(value - 0.5), 0.1);
-    const auto isNear = [&](const IsoTriangle& triangle) {
-        return std::all_of(triangle.begin(), triangle.end(), [&](const IsoVertex& vertex) {
-            const IsoPoint off = minus(vertex.position, {static_cast<float>(-1 + 0.1 * at), 0, 0});
-            return std::max({std::abs(off.x), std::abs(off.y), std::abs(off.z)}) < 0.1001;
-        });
-    };
-    std::vector<std::array<IsoPoint, 3>> kept;
-    for (const IsoTriangle& triangle : whole)
-        if (!isNear(triangle)) kept.push_back({triangle[0].position, triangle[1].position, triangle[2].position});
-    EXPECT_LT(kept.size(), whole.size());
-    for (const double hole : {0.12345, notANumber, infinity}) {
-        volume.V(at, 10, 10) = hole;
-        std::vector<std::array<IsoPoint, 3>> found;
-        for (const IsoTriangle& triangle : trianglesOf(surfaceOf(volume, 0.5))) {
-            found.push_back({triangle[0].position, triangle[1].position, triangle[2].position});
-            EXPECT_TRUE(std::all_of(triangle.begin(), triangle.end(), [](const IsoVertex& vertex) {
-                return std::abs(dot(vertex.normal, vertex.normal) - 1) < 1e-6;
-            }));
-        }
-        EXPECT_EQ(found, kept) << hole;
+        std::map<std::pair<std::uint32_t, std::uint32_t>, int> edges;
+        for (const auto& [a, b, c] : mesh.triangles)
+            for (const auto& edge : {std::pair(a, b), std::pair(b, c), std::pair(c, a)})
+                ++edges[edge];
+        for (const auto& [edge, count] : edges)
+            ASSERT_TRUE(count == 1 && edges.contains({edge.second, edge.first})) << seed;
     }
 }
 
@@ -251,34 +154,21 @@ TEST(IsoSurface, HasNoTrianglesWithoutACrossing) {
 }
 
 TEST(IsoSurface, FailsBeyondItsNodesTheArraysAndTheNumbersItCanHold) {
-    EXPECT_EQ(failureOf(Volume(3, 101, 3), 0), FailureCode::SubscriptOutOfRange);
+    constexpr int subscript = static_cast<int>(FailureCode::SubscriptOutOfRange);
+    EXPECT_EQ(failureOf(Volume(3, 101, 3), 0), subscript);
     Volume volume(4, 4, 4);
     volume.nz = 5;
-    EXPECT_EQ(failureOf(volume, 0), FailureCode::SubscriptOutOfRange);
+    EXPECT_EQ(failureOf(volume, 0), subscript);
 
     const auto mirrored = [](double, double, double z) { return z < -0.9 ? 3.0 : z < 0 ? 1.0 : z < 0.9 ? -1.0 : -3.0; };
     EXPECT_NE(trianglesOf(surfaceOf(Volume(1, 1, 3).fill(mirrored), 0)).size(), 0U);
     const auto bent = [](double, double, double z) { return z < -0.9 ? -3.0 : z < 0 ? 1.0 : z < 0.9 ? -1.0 : -3.0; };
-    EXPECT_EQ(failureOf(Volume(1, 1, 3).fill(bent), 0), FailureCode::DivisionByZero);
+    EXPECT_EQ(failureOf(Volume(1, 1, 3).fill(bent), 0), static_cast<int>(FailureCode::DivisionByZero));
     const auto huge = [](double, double, double z) { return z < 0 ? -3e38 : 3e38; };
-    EXPECT_EQ(failureOf(Volume(1, 1, 1).fill(huge), 0), FailureCode::Overflow);
-}
-
-TEST(EdgePoint, TakesAnEndWhoseMagnitudeIsTheLevelElseThePointBetween) {
-    const IsoPoint p{1, 2, 3};
-    const IsoPoint q{3, 6, -1};
-    EXPECT_EQ(EdgePoint(p, q, 0, 4, 1), (IsoPoint{1.5, 3, 2}));
-    EXPECT_EQ(EdgePoint(p, q, 4, 0, 1), (IsoPoint{2.5, 5, 0}));
-    EXPECT_EQ(EdgePoint(p, q, -1, 4, 1), p);
-    EXPECT_EQ(EdgePoint(p, q, 4, -1, 1), q);
-    EXPECT_EQ(EdgePoint(p, q, -1, 1, 1), p);
-    EXPECT_EQ(EdgePoint(p, q, -1, 4, -1), (IsoPoint{1, 2, 3}));
-    EXPECT_EQ(EdgePoint(p, q, 2, 2, 1), p);
+    EXPECT_EQ(failureOf(Volume(1, 1, 1).fill(huge), 0), static_cast<int>(FailureCode::Overflow));
 }
 
 TEST(MarchingCubesTables, CrossTheEdgesBetweenUnlikeCornersInOrientedLoops) {
-    EXPECT_EQ((std::vector<int>{EdgeTable[0], EdgeTable[1], EdgeTable[2], EdgeTable[3]}),
-              (std::vector<int>{0, 265, 515, 778}));
     EXPECT_EQ(TriTable[1], (std::array<std::int16_t, 16>{0, 8, 3, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1}));
     for (std::size_t below = 0; below < 256; ++below) {
         int used = 0;

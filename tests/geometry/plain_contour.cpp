@@ -28,22 +28,18 @@ class PlainContour {
     ContourLines<SurfacePoint> run(double interval) {
         double zmax = -1e10;
         double zmin = 1e10;
-        for (int i = 1; i <= grid_.m; ++i)
-            for (int j = 1; j <= grid_.n; ++j) {
-                if (!isUsable(z(i, j))) continue;
-                if (z(i, j) > zmax) zmax = z(i, j);
-                if (z(i, j) < zmin) zmin = z(i, j);
-            }
-        zmin = (std::floor(zmin / interval) + 1) * interval;
-        zmax = std::floor(zmax / interval) * interval;
+        forEachNode([&](int i, int j) {
+            if (z(i, j) > zmax) zmax = z(i, j);
+            if (z(i, j) < zmin) zmin = z(i, j);
+        });
         std::vector<double> levels;
-        double next = zmin;
-        while (next <= zmax) {
-            levels.push_back(next);
-            next += interval;
-        }
+        for (double z = (std::floor(zmin / interval) + 1) * interval; z <= std::floor(zmax / interval) * interval;
+             z += interval)
+            levels.push_back(z);
         for (const double level : levels)
-            nudge(level);
+            forEachNode([&](int i, int j) {
+                if (std::abs(z(i, j) - level) <= 0.0001) z(i, j) += 1e-5;
+            });
         for (const double level : levels) {
             const std::size_t first = lines_.segments.size();
             traceLevel(level);
@@ -64,10 +60,11 @@ class PlainContour {
     double& z(int i, int j) const { return grid_.z[node(i, j)]; }
     double height(int i, int j) const { return surface_[node(i, j)]; }
 
-    void nudge(double level) {
+    template <class Visit>
+    void forEachNode(const Visit& visit) {
         for (int i = 1; i <= grid_.m; ++i)
             for (int j = 1; j <= grid_.n; ++j)
-                if (isUsable(z(i, j)) && std::abs(z(i, j) - level) <= 0.0001) z(i, j) += 1e-5;
+                if (isUsable(z(i, j))) visit(i, j);
     }
 
     double fraction(double level, int i, int j, int i2, int j2) const {
@@ -159,19 +156,14 @@ class PlainContour {
     /// The case tells the cell; the cell that the line began in does not see the start.
     Edge NextCrossing(Edge e, int pi, int pj, double previousA, Edge first, bool left) {
         const auto [i, j, f] = e;
-        std::array<Edge, 3> sides;
-        std::array<int, 2> cell = {i, j};
-        if (pi < i) {
+        std::array<Edge, 3> sides = {{{i - 1, j, 0}, {i - 1, j + 1, 0}, {i - 1, j, 1}}};
+        if (pi < i)
             sides = {{{i, j, 0}, {i, j + 1, 0}, {i + 1, j, 1}}};
-        } else if (pj < j) {
+        else if (pj < j)
             sides = {{{i, j, 1}, {i + 1, j, 1}, {i, j + 1, 0}}};
-        } else if (j * grid_.a >= previousA) {
+        else if (j * grid_.a >= previousA)
             sides = {{{i, j - 1, 1}, {i + 1, j - 1, 1}, {i, j - 1, 0}}};
-            cell = {i, j - 1};
-        } else {
-            sides = {{{i - 1, j, 0}, {i - 1, j + 1, 0}, {i - 1, j, 1}}};
-            cell = {i - 1, j};
-        }
+        const std::array<int, 2> cell = {sides[0].i, sides[0].j};
         if (!left) firstCell_ = cell;
         for (const Edge side : sides)
             if (entry(side) > 0 && !(side == first && cell == firstCell_)) return side;

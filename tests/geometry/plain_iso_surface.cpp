@@ -73,19 +73,26 @@ void plainCell(const Cell& cell, float level, std::vector<IsoTriangle>& triangle
             triangles.push_back({crossing[edgeAt(entry)], crossing[edgeAt(entry + 1)], crossing[edgeAt(entry + 2)]});
 }
 
+template <class Visitor>
+void forEachNode(const Volume& volume, const Visitor& visit) {
+    for (int i = 0; i <= volume.nx; ++i)
+        for (int j = 0; j <= volume.ny; ++j)
+            for (int k = 0; k <= volume.nz; ++k)
+                visit(i, j, k);
+}
+
 class NodeTable {
  public:
-    explicit NodeTable(const Volume& volume) : volume_(volume) {
-        nodes_.resize(volume.V.values().size());
-        forEach([&](int i, int j, int k) {
-            NodeRecord& node = (*this)(i, j, k);
-            node.position = {static_cast<float>(volume.X(i, j, k)), static_cast<float>(volume.Y(i, j, k)),
-                             static_cast<float>(volume.Z(i, j, k))};
-            node.value = static_cast<float>(volume.V(i, j, k));
-            node.hasValue = isNumber(volume.V(i, j, k));
-            node.hasPlace = isNumber(volume.X(i, j, k)) && isNumber(volume.Y(i, j, k)) && isNumber(volume.Z(i, j, k));
+    explicit NodeTable(const Volume& volume) : volume_(volume), nodes_(volume.V.values().size()) {
+        forEachNode(volume, [&](int i, int j, int k) {
+            const double x = volume.X(i, j, k), y = volume.Y(i, j, k), z = volume.Z(i, j, k), value = volume.V(i, j, k);
+            (*this)(i, j, k) = {{static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)},
+                                {},
+                                static_cast<float>(value),
+                                isNumber(value),
+                                isNumber(x) && isNumber(y) && isNumber(z)};
         });
-        forEach([&](int i, int j, int k) { (*this)(i, j, k).normal = normalAt(i, j, k); });
+        forEachNode(volume, [&](int i, int j, int k) { (*this)(i, j, k).normal = normalAt(i, j, k); });
     }
 
     NodeRecord& operator()(int i, int j, int k) {
@@ -94,24 +101,15 @@ class NodeTable {
     }
 
  private:
-    template <class Visitor>
-    void forEach(Visitor&& visit) {
-        for (int i = 0; i <= volume_.nx; ++i)
-            for (int j = 0; j <= volume_.ny; ++j)
-                for (int k = 0; k <= volume_.nz; ++k)
-                    visit(i, j, k);
-    }
-
-    float valueBeside(int i, int j, int k, int di, int dj, int dk) {
-        const int ni = i + di, nj = j + dj, nk = k + dk;
-        const bool inside = ni >= 0 && ni <= volume_.nx && nj >= 0 && nj <= volume_.ny && nk >= 0 && nk <= volume_.nz;
-        return inside && (*this)(ni, nj, nk).hasValue ? (*this)(ni, nj, nk).value : (*this)(i, j, k).value;
-    }
-
     IsoPoint normalAt(int i, int j, int k) {
-        const IsoPoint fall{valueBeside(i, j, k, -1, 0, 0) - valueBeside(i, j, k, 1, 0, 0),
-                            valueBeside(i, j, k, 0, -1, 0) - valueBeside(i, j, k, 0, 1, 0),
-                            valueBeside(i, j, k, 0, 0, -1) - valueBeside(i, j, k, 0, 0, 1)};
+        const auto beside = [&](int di, int dj, int dk) {
+            const int ni = i + di, nj = j + dj, nk = k + dk;
+            const bool inside =
+                ni >= 0 && ni <= volume_.nx && nj >= 0 && nj <= volume_.ny && nk >= 0 && nk <= volume_.nz;
+            return inside && (*this)(ni, nj, nk).hasValue ? (*this)(ni, nj, nk).value : (*this)(i, j, k).value;
+        };
+        const IsoPoint fall{beside(-1, 0, 0) - beside(1, 0, 0), beside(0, -1, 0) - beside(0, 1, 0),
+                            beside(0, 0, -1) - beside(0, 0, 1)};
         const float length = plainLength(fall);
         if (length == 0) return {1, 0, 0};
         return {fall.x / length, fall.y / length, fall.z / length};
@@ -126,15 +124,11 @@ class NodeTable {
 Volume::Volume(int highestI, int highestJ, int highestK, int spare) : nx(highestI), ny(highestJ), nz(highestK) {
     for (Array* array : {&X, &Y, &Z, &V})
         array->allocate(nx + spare, ny + spare, nz + spare);
-    for (int i = 0; i <= nx; ++i) {
-        for (int j = 0; j <= ny; ++j) {
-            for (int k = 0; k <= nz; ++k) {
-                X(i, j, k) = -1 + 2.0 * i / nx;
-                Y(i, j, k) = -1 + 2.0 * j / ny;
-                Z(i, j, k) = -1 + 2.0 * k / nz;
-            }
-        }
-    }
+    forEachNode(*this, [this](int i, int j, int k) {
+        X(i, j, k) = -1 + 2.0 * i / nx;
+        Y(i, j, k) = -1 + 2.0 * j / ny;
+        Z(i, j, k) = -1 + 2.0 * k / nz;
+    });
 }
 
 std::vector<IsoTriangle> plainIsoSurface(const Volume& volume, double isoValue) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <numbers>
 #include <random>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -14,13 +15,9 @@ using Place = std::pair<double, double>;
 
 /// Two columns as the triangulation takes them: points 1 to n, room for three more.
 struct PointCloud {
-    explicit PointCloud(const std::vector<Place>& places) : x(1), y(1) {
-        for (const auto& [px, py] : places) {
-            x.push_back(px);
-            y.push_back(py);
-        }
-        x.resize(x.size() + 3);
-        y.resize(y.size() + 3);
+    explicit PointCloud(const std::vector<Place>& places) : x(places.size() + 4), y(x) {
+        for (std::size_t i = 0; i < places.size(); ++i)
+            std::tie(x[i + 1], y[i + 1]) = places[i];
     }
     std::int32_t n() const { return static_cast<std::int32_t>(x.size()) - 4; }
 

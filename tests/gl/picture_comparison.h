@@ -68,18 +68,15 @@ inline void placeCamera(DisplayList& list, double shift = 0) {
 }
 
 inline void setLight(DisplayList& list) {
-    const std::array<float, 4> one{1, 1, 1, 1};
-    const std::array<float, 4> dim{0.2F, 0.2F, 0.2F, 1};
     list.glLightfv(GL_LIGHT0, GL_POSITION, std::array<float, 4>{10, 20, 30, 1});
-    list.glLightfv(GL_LIGHT0, GL_DIFFUSE, one);
-    list.glLightfv(GL_LIGHT0, GL_SPECULAR, one);
-    list.glLightModelfv(GL_LIGHT_MODEL_AMBIENT, dim);
+    for (const GLenum light : {GL_DIFFUSE, GL_SPECULAR})
+        list.glLightfv(GL_LIGHT0, light, std::array<float, 4>{1, 1, 1, 1});
+    list.glLightModelfv(GL_LIGHT_MODEL_AMBIENT, std::array<float, 4>{0.2F, 0.2F, 0.2F, 1});
     list.glLightModelfv(GL_LIGHT_MODEL_TWO_SIDE, std::array<float, 1>{1});
     // Without it highlights have a hard edge, which rounding would move.
     list.glMaterialfv(GL_FRONT_AND_BACK, GL_SHININESS, std::array<float, 1>{10});
-    list.glEnable(GL_LIGHTING);
-    list.glEnable(GL_LIGHT0);
-    list.glEnable(GL_COLOR_MATERIAL);
+    for (const GLenum capability : {GL_LIGHTING, GL_LIGHT0, GL_COLOR_MATERIAL})
+        list.glEnable(capability);
     list.glColorMaterial(GL_FRONT_AND_BACK, GL_DIFFUSE);
 }
 

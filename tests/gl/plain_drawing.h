@@ -21,15 +21,15 @@ class PlainDrawing {
 
  private:
     void call(const DisplayList& list, const Operation& operation);
-    void callVertex(const Operation& operation);
-    void callMatrix(const Operation& operation);
-    void callState(const Operation& operation);
-    void callRest(const DisplayList& list, const Operation& operation);
+    void clear(GLbitfield buffers);
+    void setImage(const TextureImage& image);
     void accumulate(GLenum operation, float value);
+    void showSum(float scale);
 
     OffscreenContext context_;
     int width_;
     int height_;
+    GLuint framebuffer_ = 0;
     std::vector<float> sum_;
 };
 

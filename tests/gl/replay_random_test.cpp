@@ -18,18 +18,12 @@ class RandomList {
         int pushed = 0;
         for (int i = 0; i < operations; ++i) {
             const int choice = pick(depth < 2 ? 20 : 19);
-            if (choice < 8)
-                block(*list);
-            else if (choice < 10)
-                attribute(*list);
-            else if (choice < 12)
-                state(*list);
-            else if (choice < 15)
-                matrix(*list, pushed);
-            else if (choice < 19)
-                quadric(*list);
-            else
-                list->glCallList(record(10, depth + 1));
+            if (choice < 8) block(*list);
+            if (choice >= 8 && choice < 10) attribute(*list);
+            if (choice >= 10 && choice < 12) state(*list);
+            if (choice >= 12 && choice < 15) matrix(*list, pushed);
+            if (choice >= 15 && choice < 19) quadric(*list);
+            if (choice == 19) list->glCallList(record(10, depth + 1));
         }
         while (pushed-- > 0)
             list->glPopMatrix();
@@ -46,16 +40,10 @@ class RandomList {
     }
 
     void attribute(DisplayList& list) {
-        switch (pick(4)) {
-            case 0:
-                list.glNormal3d(number(-1, 1), number(-1, 1), 1);
-                break;
-            case 1:
-                list.glColor4d(number(0, 1), number(0, 1), number(0, 1), number(0, 1));
-                break;
-            default:
-                list.glColor3f(single(0, 1), single(0, 1), single(0, 1));
-        }
+        const int choice = pick(4);
+        if (choice == 0) list.glNormal3d(number(-1, 1), number(-1, 1), 1);
+        if (choice == 1) list.glColor4d(number(0, 1), number(0, 1), number(0, 1), number(0, 1));
+        if (choice > 1) list.glColor3f(single(0, 1), single(0, 1), single(0, 1));
     }
 
     void block(DisplayList& list) {
@@ -107,50 +95,33 @@ class RandomList {
 
     void state(DisplayList& list) {
         const bool on = pick(2) == 0;
-        switch (pick(6)) {
-            case 0: {
-                const GLenum capability = oneOf(std::array<GLenum, 3>{GL_LIGHTING, GL_COLOR_MATERIAL, GL_BLEND});
-                on ? list.glEnable(capability) : list.glDisable(capability);
-                break;
-            }
-            case 1:
-                list.glLineWidth(static_cast<float>(1 + pick(3)));
-                break;
-            case 2:
-                list.glShadeModel(on ? GL_FLAT : GL_SMOOTH);
-                break;
-            case 3:
-                list.glPolygonMode(GL_FRONT_AND_BACK,
-                                   oneOf(std::array<GLenum, 4>{GL_LINE, GL_POINT, GL_FILL, GL_FILL}));
-                break;
-            case 4:
-                list.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-                break;
-            default:
-                list.glMaterialfv(GL_FRONT_AND_BACK, GL_SPECULAR,
-                                  std::array<float, 4>{single(0, 1), single(0, 1), single(0, 1), 1});
+        const int choice = pick(6);
+        if (choice == 0) {
+            const GLenum capability = oneOf(std::array<GLenum, 3>{GL_LIGHTING, GL_COLOR_MATERIAL, GL_BLEND});
+            on ? list.glEnable(capability) : list.glDisable(capability);
         }
+        if (choice == 1) list.glLineWidth(static_cast<float>(1 + pick(3)));
+        if (choice == 2) list.glShadeModel(on ? GL_FLAT : GL_SMOOTH);
+        if (choice == 3)
+            list.glPolygonMode(GL_FRONT_AND_BACK, oneOf(std::array<GLenum, 4>{GL_LINE, GL_POINT, GL_FILL, GL_FILL}));
+        if (choice == 4) list.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+        if (choice == 5)
+            list.glMaterialfv(GL_FRONT_AND_BACK, GL_SPECULAR,
+                              std::array<float, 4>{single(0, 1), single(0, 1), single(0, 1), 1});
     }
 
     void matrix(DisplayList& list, int& pushed) {
-        switch (pick(6)) {
-            case 0:
-                list.glTranslatef(single(-1, 1), single(-1, 1), single(-1, 1));
-                break;
-            case 1:
-                list.glRotatef(single(-180, 180), single(-1, 1), single(-1, 1), single(-1, 1));
-                break;
-            case 2:
-                list.glScalef(single(0.7, 1.3), single(0.7, 1.3), single(0.7, 1.3));
-                break;
-            case 3:
-                if (pushed == 0) break;
-                list.glPopMatrix();
-                --pushed;
-                break;
-            default:
-                list.glPushMatrix();
-                ++pushed;
+        const int choice = pick(6);
+        if (choice == 0) list.glTranslatef(single(-1, 1), single(-1, 1), single(-1, 1));
+        if (choice == 1) list.glRotatef(single(-180, 180), single(-1, 1), single(-1, 1), single(-1, 1));
+        if (choice == 2) list.glScalef(single(0.7, 1.3), single(0.7, 1.3), single(0.7, 1.3));
+        if (choice == 3 && pushed > 0) {
+            list.glPopMatrix();
+            --pushed;
+        }
+        if (choice > 3) {
+            list.glPushMatrix();
+            ++pushed;
         }
     }
 

@@ -9,12 +9,6 @@
 namespace tessaplot::gl::test {
 namespace {
 
-using Color = std::array<double, 3>;
-
-void setColor(DisplayList& list, const Color& color) {
-    list.glColor3d(color[0], color[1], color[2]);
-}
-
 void addRectangle(DisplayList& list, double x, double y, double z, double size) {
     list.glBegin(GL_QUADS);
     list.glVertex3d(x, y, z);
@@ -31,7 +25,7 @@ DisplayListPtr surface() {
     const auto height = [](int i, int j) { return std::sin(0.5 * i) + std::cos(0.4 * j); };
     const auto vertex = [&](int i, int j, double up) { list->glVertex3d(i * 0.4 - 4, height(i, j) + up, j * 0.4 - 4); };
     list->glShadeModel(GL_SMOOTH);
-    for (int i = 0; i < steps; ++i) {
+    for (int i = 0; i < steps; ++i)
         for (int j = 0; j < steps; ++j) {
             list->glBegin(GL_QUADS);
             for (const auto& [u, v] : {std::pair{i, j}, {i + 1, j}, {i + 1, j + 1}, {i, j + 1}}) {
@@ -41,7 +35,6 @@ DisplayListPtr surface() {
             }
             list->glEnd();
         }
-    }
     list->glLineWidth(2);
     for (int i = 0; i < steps; ++i) {
         list->glBegin(GL_LINE_STRIP);
@@ -70,15 +63,15 @@ TEST(Replay, KeepsOrderWeightsAndDepthOfTheSamples) {
     DisplayList frame;
     placeCamera(frame);
     frame.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    setColor(frame, {0, 0, 0});
+    frame.glColor3d(0, 0, 0);
     addRectangle(frame, -7, -5, 0, 3);
     frame.glClear(GL_ACCUM_BUFFER_BIT);
     // A sample that is not cleared shows what was drawn before; one is added twice, a part of one is drawn over.
-    setColor(frame, {1, 0, 0});
+    frame.glColor3d(1, 0, 0);
     addRectangle(frame, -1, -1, 0, 3);
     frame.glAccum(GL_LOAD, 0.25F);
     frame.glAccum(GL_ACCUM, 0.1F);
-    setColor(frame, {0, 1, 0});
+    frame.glColor3d(0, 1, 0);
     addRectangle(frame, 0, 0, 0, 2);
     frame.glAccum(GL_ACCUM, 0.3F);
     frame.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
@@ -86,7 +79,7 @@ TEST(Replay, KeepsOrderWeightsAndDepthOfTheSamples) {
     frame.glAccum(GL_ACCUM, 0.35F);
     frame.glAccum(GL_RETURN, 0.9F);
     // Over the returned picture, with the depth of the last sample: hidden where that has drawn.
-    setColor(frame, {0, 0, 1});
+    frame.glColor3d(0, 0, 1);
     addRectangle(frame, -2, -2, 0, 5);
     const Difference difference = both.draw(frame);
     EXPECT_LE(difference.largest, 1);
@@ -187,37 +180,38 @@ TEST(Replay, SpheresAreDrawnInEveryPolygonMode) {
 
 TEST(Replay, SpheresShowTheirBacksWhereOneSeesThem) {
     BothWays both;
-    auto spheres = std::make_shared<DisplayList>();
-    spheres->glColor3f(0.8F, 0.4F, 0.1F);
-    spheres->gluSphere(3, 12, 12);
-    spheres->glTranslatef(4, 0, 0);
-    spheres->gluSphere(2, 9, 9);
-    enum class View { Plain, Mirrored, MirroredInTheList, CutByTheNearPlane, Transparent };
-    for (const View view :
-         {View::Plain, View::Mirrored, View::MirroredInTheList, View::CutByTheNearPlane, View::Transparent}) {
+    const auto spheresAfter = [](const std::function<void(DisplayList&)>& prepare) {
         auto list = std::make_shared<DisplayList>();
-        if (view == View::Mirrored) list->glScalef(-1, 1, 1);
-        if (view == View::CutByTheNearPlane) {
-            list->glLoadIdentity();
-            list->glTranslatef(0, 0, -2);
-        }
-        if (view == View::Transparent) {
-            list->glEnable(GL_BLEND);
-            list->glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-            list->glColor4f(0.2F, 0.4F, 0.9F, 0.4F);
-        }
-        if (view == View::MirroredInTheList || view == View::Transparent) {
-            list->glPushMatrix();
-            list->glScalef(view == View::MirroredInTheList ? -1 : 1, 1, 1);
-            list->gluSphere(3, 12, 12);
-            list->glPopMatrix();
-        } else {
-            list->glCallList(spheres);
-        }
+        list->glColor3f(0.8F, 0.4F, 0.1F);
+        prepare(*list);
+        list->gluSphere(3, 12, 12);
+        list->glTranslatef(4, 0, 0);
+        list->gluSphere(2, 9, 9);
         list->glDisable(GL_BLEND);
+        return list;
+    };
+    const DisplayListPtr plain = spheresAfter([](DisplayList&) {});
+    const auto mirror = [](DisplayList& list) { list.glScalef(-1, 1, 1); };
+    const auto cutByTheNearPlane = [](DisplayList& list) {
+        list.glLoadIdentity();
+        list.glTranslatef(0, 0, -2);
+    };
+    const auto transparent = [](DisplayList& list) {
+        list.glEnable(GL_BLEND);
+        list.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+        list.glColor4f(0.2F, 0.4F, 0.9F, 0.4F);
+    };
+    const auto calling = [&](const auto& prepare) {
+        auto list = std::make_shared<DisplayList>();
+        prepare(*list);
+        list->glCallList(plain);
+        return list;
+    };
+    for (const DisplayListPtr& list : std::vector<DisplayListPtr>{
+             plain, calling(mirror), spheresAfter(mirror), calling(cutByTheNearPlane), spheresAfter(transparent)}) {
         const Difference difference = both.draw(frameOf(list, 2));
-        EXPECT_LE(difference.share, 0.0005) << static_cast<int>(view);
-        EXPECT_GT(difference.drawnShare, 0.1) << static_cast<int>(view);
+        EXPECT_LE(difference.share, 0.0005) << toText(*list);
+        EXPECT_GT(difference.drawnShare, 0.1) << toText(*list);
     }
 }
 

@@ -13,9 +13,7 @@ namespace tessaplot::graphs {
 namespace {
 
 void expectColor(const Rgb& actual, const Rgb& expected) {
-    EXPECT_EQ(actual.r, expected.r);
-    EXPECT_EQ(actual.g, expected.g);
-    EXPECT_EQ(actual.b, expected.b);
+    EXPECT_EQ((std::array{actual.r, actual.g, actual.b}), (std::array{expected.r, expected.g, expected.b}));
 }
 
 /// One channel of the ramp rule, written out over a graph's stops.
@@ -40,19 +38,18 @@ TEST(ColorFill, unpacksEveryByteOfAColor) {
 }
 
 TEST(ColorFill, rampAgreesWithItsPlainFormInsideAndOutside) {
-    struct Ramp {
+    const struct {
         const char* name;
         int stops;
         Rgb middle;
-    };
-    const Ramp ramps[] = {
+    } ramps[] = {
         {"", 6, {127.5, 255, 0}},          {"@RainBow", 6, {127.5, 255, 0}}, {"@earth", 5, {255, 255, 0}},
         {"FIERY", 5, {0, 255, 255}},       {"marine", 3, {0, 100, 100}},     {"@Grey", 2, {125, 125, 125}},
         {"of my own", 6, {127.5, 255, 0}},
     };
     std::mt19937 engine(2);
     std::uniform_real_distribution<double> values(-30, 30);
-    for (const Ramp& ramp : ramps) {
+    for (const auto& ramp : ramps) {
         SCOPED_TRACE(ramp.name);
         Cls9 graph;
         graph.ColorName = ramp.name;

@@ -1,8 +1,3 @@
-#include <random>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "base/failure.h"
 #include "small_scene.h"
 
@@ -39,10 +34,9 @@ TEST(GraphBox, holdsTheGridUpToTheSteps) {
     }
     EXPECT_EQ(boxOf(18, -1, 3, scene), inverted);
 
-    std::mt19937 engine(3);
-    std::normal_distribution<double> numbers(0, 100);
+    Engine engine(3);
     for (double& value : scene.data.Reg3DZ.values())
-        value = numbers(engine);
+        value = pick(engine, -1000, 1000);
     for (const auto& [stepU, stepV] : {std::pair{6, 4}, {5, 3}, {0, 0}, {1, 4}, {6, 2}}) {
         double lowest = farAway;
         for (int i = 0; i <= stepU; ++i)

@@ -1,11 +1,4 @@
-#include <algorithm>
 #include <cmath>
-#include <map>
-#include <random>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "base/failure.h"
 #include "graphs/emitters.h"
@@ -75,14 +68,22 @@ TEST(GraphDraw, surfacesTakeBackTheRoomForOverlays) {
 }
 
 TEST(GraphDraw, failsForADataSetSmallerThanItsSteps) {
+    SmallScene empty;
     SmallScene scene;
-    for (const int type : {13, 17, 18, 19}) {
-        Cls9 graph = graphOf(type, 1000000, 1000000);
-        EXPECT_THROW(scene.drawn(graph), base::Failure) << type;
-    }
     scene.fillSurface(3, 3);
-    Cls9 tooMany = graphOf(graph_type::gridModel, 3, 4);
-    EXPECT_THROW(scene.drawn(tooMany), base::Failure);
+    for (int type = 13; type <= 19; ++type) {
+        const auto graph = [type](int stepU, int stepV) {
+            Cls9 result = graphOf(type, stepU, stepV);
+            result.ContourLevels = result.Contour3Levels = 1;
+            return result;
+        };
+        for (Cls9 tooLarge : {graph(1000000, 1000000), graph(0, 0)})
+            EXPECT_THROW(empty.drawn(tooLarge), base::Failure) << type;
+        for (Cls9 good : {graph(0, 0), graph(2, 2)})
+            EXPECT_NO_THROW(scene.drawn(good)) << type;
+        Cls9 tooMany = graph(3, 4);
+        EXPECT_THROW(scene.drawn(tooMany), base::Failure) << type;
+    }
     Cls9 negative = graphOf(graph_type::point, -1, 1);
     EXPECT_THROW(scene.drawn(negative), base::Failure);
 }
@@ -127,56 +128,42 @@ TEST(PointGraph, unrollsAnglesForTheIrregularKindsOnly) {
              std::sin(b) * 4);
 }
 
-TEST(VertexModel, marksEachNodeRowByRow) {
-    SmallScene scene;
-    scene.fillSurface(2, 2);
-    scene.scene = {scene::mode4D, 1, 2, 3};
-    Cls9 graph = graphOf(graph_type::vertexModel, 1, 1);
-    graph.VertSize = 3;
-    graph.VertColor = base::packColor(0, 255, 0);
-    const auto sphere = [](const char* position) { return sphereText("0 1 0", position, "0.15"); };
-    EXPECT_EQ(scene.drawn(graph),
-              preparation + sphere("-1 -2 -3") + sphere("9 -1 -3") + sphere("-1 98 -2") + sphere("9 99 -2"));
-}
-
-TEST(GridModel, drawsEachCellForItselfThenTheLastEdges) {
-    SmallScene scene;
-    scene.fillSurface(2, 2);
-    scene.scene = {scene::mode3D, 1, 2, 3};
-    Cls9 graph = graphOf(graph_type::gridModel, 1, 1);
-    graph.GridWidth = 2;
-    graph.GridColor = base::packColor(0, 0, 51);
-    const std::string begin = "glBegin GL_LINES\nglColor3d 0 0 0.2\n";
-    const std::string node00 = "glVertex3d -1 -2 -3\n";
-    const std::string node01 = "glVertex3d 9 -1 -3\n";
-    const std::string node10 = "glVertex3d -1 98 -2\n";
-    const std::string node11 = "glVertex3d 9 99 -2\n";
-    EXPECT_EQ(scene.drawn(graph), preparation + "glLineWidth 2\n" + begin + node00 + node01 + node00 + node10 +
-                                      "glEnd\n" + begin + node10 + node11 + "glEnd\n" + begin + node01 + node11 +
-                                      "glEnd\n");
-}
-
-TEST(GridModel, holdsEveryEdgeOfTheGridOnce) {
+TEST(Models, markEachNodeRowByRowAndDrawEachCellForItselfThenTheLastEdges) {
     SmallScene scene;
     scene.fillSurface(9, 9);
-    Cls9 graph = graphOf(graph_type::gridModel, 6, 4);
-    gl::DisplayList list;
-    graph.Draw(list, scene.context());
-
-    std::vector<std::pair<int, int>> nodes;
-    list.forEach([&](const gl::Operation& operation) {
-        if (operation.op == gl::Op::Vertex3d)
-            nodes.emplace_back(static_cast<int>(operation.numbers[2]), static_cast<int>(operation.numbers[0]) / 10);
+    scene.scene = {scene::mode4D, 1, 2, 3};
+    Cls9 vertices = graphOf(graph_type::vertexModel, 6, 4);
+    vertices.VertSize = 3;
+    vertices.VertColor = base::packColor(0, 255, 0);
+    scene.expectAsPlain(vertices, [](gl::DisplayList& list, Cls9& graph, const GraphContext& context) {
+        for (int i = 0; i <= graph.StepU; ++i)
+            for (int j = 0; j <= graph.StepV; ++j) {
+                scene::Cls2 mark = scene::Cls2::init(10 * j, 100 * i + j, i);
+                mark.Color = graph.VertColor;
+                mark.size = 3;
+                mark.Draw(list, context.scene);
+            }
     });
-    std::map<std::pair<std::pair<int, int>, std::pair<int, int>>, int> edges;
-    for (std::size_t i = 0; i + 1 < nodes.size(); i += 2) {
-        const int length =
-            std::abs(nodes[i].first - nodes[i + 1].first) + std::abs(nodes[i].second - nodes[i + 1].second);
-        EXPECT_EQ(length, 1);
-        ++edges[std::minmax(nodes[i], nodes[i + 1])];
-    }
-    EXPECT_EQ(edges.size(), 6U * 5 + 7U * 4);
-    EXPECT_TRUE(std::ranges::all_of(edges, [](const auto& edge) { return edge.second == 1; }));
+    Cls9 grid = graphOf(graph_type::gridModel, 6, 4);
+    grid.GridWidth = 2;
+    grid.GridColor = base::packColor(0, 0, 51);
+    scene.expectAsPlain(grid, [](gl::DisplayList& list, Cls9& graph, const GraphContext&) {
+        const auto lines = [&](std::initializer_list<std::array<int, 2>> nodes) {
+            list.glBegin(GL_LINES);
+            list.glColor3d(0, 0, 0.2);
+            for (const auto& [i, j] : nodes)
+                list.glVertex3d(10 * j - 1, 100 * i + j - 2, i - 3);
+            list.glEnd();
+        };
+        list.glLineWidth(2);
+        for (int i = 0; i < graph.StepU; ++i)
+            for (int j = 0; j < graph.StepV; ++j)
+                lines({{i, j}, {i, j + 1}, {i, j}, {i + 1, j}});
+        for (int j = 0; j < graph.StepV; ++j)
+            lines({{graph.StepU, j}, {graph.StepU, j + 1}});
+        for (int i = 0; i < graph.StepU; ++i)
+            lines({{i, graph.StepV}, {i + 1, graph.StepV}});
+    });
 }
 
 TEST(TableGraph, joinsItsFirstRowAndRingsItsNodes) {

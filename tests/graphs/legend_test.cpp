@@ -1,11 +1,7 @@
 #include <cmath>
 #include <limits>
-#include <random>
-#include <string>
-#include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "graphs/nice_scale.h"
 #include "scene/text.h"
@@ -47,7 +43,6 @@ TEST(NiceScale, hasAHandfulOfRoundNumbersWithinAnyRange) {
 }
 
 TEST(NiceScale, runsFromZeroWithoutAnExtentAndGivesUpWithoutSense) {
-    EXPECT_THAT(labelsOf(3, 3), ElementsAre("0", "0.5", "1", "1.5", "2", "2.5", "3"));
     EXPECT_EQ(NiceScale(3, 3).lower, 0);
     const double inf = std::numeric_limits<double>::infinity();
     for (const auto& [lower, upper] : {std::pair{0.0, 0.0}, {-3.0, -3.0}, {1e10, -1e10}, {-inf, inf}, {NAN, 1.0}})
@@ -70,33 +65,23 @@ TEST(NiceScale, labelsAreAsShortAsTheirNumbers) {
 class LegendTest : public testing::Test {
  protected:
     LegendTest() {
-        scene.data.MinX = 0;
-        scene.data.MaxX = 4;
-        scene.data.MinY = 10;
-        scene.data.MaxY = 12;
-        scene.data.MinZ = -1;
-        scene.data.MaxZ = 1;
-        scene.data.MinC = 0;
-        scene.data.MaxC = 100;
-        scene.data.MInv = 5;
-        scene.data.MaxV = 9;
+        data::ClsData& d = scene.data;
+        d.MinX = 0, d.MinY = 10, d.MinZ = -1, d.MinC = 0, d.MInv = 5;
+        d.MaxX = 4, d.MaxY = 12, d.MaxZ = 1, d.MaxC = 100, d.MaxV = 9;
     }
-    std::string legend(int type, int fillStyle) {
+    gl::DisplayList legend(int type, int fillStyle) {
         Cls9 graph = graphOf(type, 1, 1);
         graph.FillStyle = fillStyle;
         graph.FirstColor = base::packColor(255, 0, 0);
         graph.SecondColor = base::packColor(0, 0, 255);
-        graph.ColorName = "Grey";
         gl::DisplayList list;
         graph.DrawLegend(list, scene.context());
-        return gl::toText(list);
+        return list;
     }
+    std::string text(int type, int fillStyle) { return gl::toText(legend(type, fillStyle)); }
     /// The labels from the lower end of the bar to the upper one.
     std::vector<std::string> labels(int type, int fillStyle) {
-        Cls9 graph = graphOf(type, 1, 1);
-        graph.FillStyle = fillStyle;
-        gl::DisplayList list;
-        graph.DrawLegend(list, scene.context());
+        const gl::DisplayList list = legend(type, fillStyle);
         std::vector<std::string> found;
         list.forEach([&](const gl::Operation& operation) {
             if (operation.op == gl::Op::CallListsText) found.push_back(list.text(operation.object));
@@ -107,7 +92,6 @@ class LegendTest : public testing::Test {
 };
 
 TEST_F(LegendTest, ofAGradientReadsAsOneWouldWriteItDown) {
-    const std::string text = legend(graph_type::surface, 3);
     const std::string black = "glColor3d 0 0 0\n";
     const auto number = [&](const std::string& y, const std::string& label) {
         const std::string begin = "glBegin GL_LINES\n" + black;
@@ -117,7 +101,7 @@ TEST_F(LegendTest, ofAGradientReadsAsOneWouldWriteItDown) {
                " 0\nglVertex3d 82.5 " + y + " 0\nglEnd\n" + begin + "glVertex3d 84.5 " + y + " 0\nglVertex3d 85 " + y +
                " 0\nglEnd\n";
     };
-    EXPECT_EQ(text,
+    EXPECT_EQ(text(graph_type::surface, 3),
               "glShadeModel GL_SMOOTH\nglNormal3d 0 0 1\nglBegin GL_POLYGON\n"
               "glColor3d 0 0 1\nglVertex3d 82 30 0\nglColor3d 1 0 0\nglVertex3d 82 70 0\nglVertex3d 85 70 0\n"
               "glColor3d 0 0 1\nglVertex3d 85 30 0\nglEnd\n" +
@@ -155,22 +139,21 @@ TEST_F(LegendTest, takesTheRangeThatBelongsToKindAndFill) {
 
 TEST_F(LegendTest, isNotThereWithoutARange) {
     for (const int type : {0, 4, 7, 12, 15, 17, 18, 19, 41, 42})
-        EXPECT_EQ(legend(type, 5), "") << type;
+        EXPECT_EQ(text(type, 5), "") << type;
     for (const int style : {-1, 0, 4, 6})
-        EXPECT_EQ(legend(graph_type::surface, style), "glShadeModel GL_SMOOTH\n");
+        EXPECT_EQ(text(graph_type::surface, style), "glShadeModel GL_SMOOTH\n");
     for (const int style : {1, 2, 3})
-        EXPECT_EQ(legend(graph_type::isoSurface, style), "glShadeModel GL_SMOOTH\n");
+        EXPECT_EQ(text(graph_type::isoSurface, style), "glShadeModel GL_SMOOTH\n");
 }
 
 TEST_F(LegendTest, ofEqualEndsHasTheTicksOfItsScaleAndNoneForZeros) {
     scene.data.MinC = 3;
     scene.data.MaxC = 3;
-    const std::string text = legend(graph_type::surface, 5);
     EXPECT_EQ(labels(graph_type::surface, 5), (std::vector<std::string>{"0", "0.5", "1", "1.5", "2", "2.5", "3"}));
-    EXPECT_THAT(text, HasSubstr("glRasterPos3f 86 30 0\n"));
-    EXPECT_THAT(text, HasSubstr("glRasterPos3f 86 70 0\n"));
+    for (const char* end : {"glRasterPos3f 86 30 0\n", "glRasterPos3f 86 70 0\n"})
+        EXPECT_THAT(text(graph_type::surface, 5), HasSubstr(end));
     scene.data.MinC = scene.data.MaxC = 0;
-    EXPECT_THAT(legend(graph_type::surface, 5), HasSubstr("GL_POLYGON"));
+    EXPECT_THAT(text(graph_type::surface, 5), HasSubstr("GL_POLYGON"));
     EXPECT_TRUE(labels(graph_type::surface, 5).empty());
 }
 

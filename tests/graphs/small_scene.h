@@ -60,7 +60,7 @@ struct SmallScene {
         return text.substr(text.find(lastOfMaterial) + lastOfMaterial.size());
     }
     /// Draws the graph and holds it against its plain form.
-    void expectAsPlain(Cls9& graph, PlainGraph& plain) const {
+    void expectAsPlain(Cls9& graph, PlainGraph* plain) const {
         const std::string text = body(graph);
         gl::DisplayList list;
         Cls9 other = graph;  // With the ranges that it found.

@@ -108,7 +108,7 @@ TEST(VolumePlots, emitWhatThePlainLoopsEmit) {
         // An infinite coordinate makes no range.
         if (!std::isfinite(graph.MaxX)) continue;
         constexpr std::array plains{plainScatter4D, plainVectors4D, plainSlices4D};
-        scene.expectAsPlain(graph, *plains[static_cast<std::size_t>(round % 3)]);
+        scene.expectAsPlain(graph, plains[static_cast<std::size_t>(round % 3)]);
     }
 }
 

@@ -56,9 +56,9 @@ TEST(PolyFit, StatisticsSplitTheSquaresAndJudgeByTheFDistribution) {
     const Table data = noisyData(n, 2, 20);
     const FitStatistics s = PolyFit(data, n).statistics;
     double mean = 0;
+    double around = 0;
     for (int i = 1; i <= n; ++i)
         mean += data(i, 3) / n;
-    double around = 0;
     for (int i = 1; i <= n; ++i)
         around += (data(i, 3) - mean) * (data(i, 3) - mean);
     EXPECT_NEAR(s.total, around, 1e-9 * around) << "least squares split the squares around the mean";

@@ -22,18 +22,9 @@ struct Ending {
 
 inline bool plainNode(const ScatteredSurface& surface, int method, double p, double q, bool colour, double& value) {
     const int k = std::min(surface.Points(), 5);
-    switch (method) {
-        case 1:
-            colour ? NDSC(surface, p, q, value, k) : NDS(surface, p, q, value, k);
-            return true;
-        case 2:
-            value = Shepard(surface, p, q, colour);
-            return true;
-        case 3:
-            return RBF(surface, p, q, colour, value);
-        default:
-            return TPS(surface, p, q, colour, value);
-    }
+    if (method == 1) return (colour ? NDSC : NDS)(surface, p, q, value, k), true;
+    if (method == 2) return value = Shepard(surface, p, q, colour), true;
+    return (method == 3 ? RBF : TPS)(surface, p, q, colour, value);
 }
 
 /// The grid node after node by the plain routines.

@@ -21,10 +21,7 @@ struct SmallSurface {
     ScatteredSurface view(SurfaceCoordinates coordinates = SurfaceCoordinates::Cartesian) const {
         ScatteredSurface surface;
         surface.coordinates = coordinates;
-        surface.x = x;
-        surface.y = y;
-        surface.z = z;
-        surface.c = c;
+        surface.x = x, surface.y = y, surface.z = z, surface.c = c;
         surface.applicationPoints = surface.Points();
         return surface;
     }
@@ -72,9 +69,8 @@ TEST(Nearest, CylindersInterpolateTheRadiusOverDegreesAndColoursOverFractions) {
 }
 
 TEST(Nearest, VolumesBlendInThreeDimensions) {
-    const Cloud cloud(Scatter::Random, 1, 1);
-    ScatteredVolume volume;
     const std::vector<double> x = {0, 0}, y = {0, 3}, z = {2, 0}, v = {1, 6};
+    ScatteredVolume volume;
     volume.x = x, volume.y = y, volume.z = z, volume.v = v;
     volume.applicationPoints = 2;
     double value = 0;

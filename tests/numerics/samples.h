@@ -2,7 +2,7 @@
 
 #include <cmath>
 #include <random>
-#include <string>
+#include <utility>
 #include <vector>
 
 #include "numerics/grid.h"
@@ -12,28 +12,17 @@ namespace tessaplot::numerics::test {
 /// Ways to scatter points, each hard on another part of the gridding.
 enum class Scatter { Random, Clustered, Collinear, Duplicates, OnNodes, Wide, Overflowing, Tiny };
 
-inline constexpr Scatter allScatters[] = {Scatter::Random,      Scatter::Clustered, Scatter::Collinear,
-                                          Scatter::Duplicates,  Scatter::OnNodes,   Scatter::Wide,
-                                          Scatter::Overflowing, Scatter::Tiny};
-
-inline std::string nameOf(Scatter scatter) {
-    constexpr const char* names[] = {"random",   "clustered", "collinear",   "duplicates",
-                                     "on nodes", "wide",      "overflowing", "tiny"};
-    return names[static_cast<int>(scatter)];
-}
+inline constexpr std::pair<Scatter, const char*> allScatters[] = {
+    {Scatter::Random, "random"},           {Scatter::Clustered, "clustered"},
+    {Scatter::Collinear, "collinear"},     {Scatter::Duplicates, "duplicates"},
+    {Scatter::OnNodes, "on nodes"},        {Scatter::Wide, "wide"},
+    {Scatter::Overflowing, "overflowing"}, {Scatter::Tiny, "tiny"}};
 
 /// The size of the square that a scatter fills, centred at 0.
 inline double extentOf(Scatter scatter) {
-    switch (scatter) {
-        case Scatter::Wide:
-            return 30000;  // Squared distances pass the mark of a used point.
-        case Scatter::Overflowing:
-            return 1.5e154;  // Some squared distances pass the largest number.
-        case Scatter::Tiny:
-            return 1e-9;
-        default:
-            return 20;
-    }
+    if (scatter == Scatter::Wide) return 30000;           // Squared distances pass the mark of a used point.
+    if (scatter == Scatter::Overflowing) return 1.5e154;  // Some squared distances pass the largest number.
+    return scatter == Scatter::Tiny ? 1e-9 : 20;
 }
 
 /// Four columns of scattered points.
@@ -73,10 +62,7 @@ struct Cloud {
 inline ScatteredSurface surfaceOf(const Cloud& cloud, SurfaceCoordinates coordinates, double extent, int steps = 11) {
     ScatteredSurface surface;
     surface.coordinates = coordinates;
-    surface.x = cloud.x;
-    surface.y = cloud.y;
-    surface.z = cloud.z;
-    surface.c = cloud.w;
+    surface.x = cloud.x, surface.y = cloud.y, surface.z = cloud.z, surface.c = cloud.w;
     surface.MinX = surface.MinY = surface.MinZ = surface.MinA = surface.MinB = -extent / 2;
     surface.MaxX = surface.MaxY = surface.MaxZ = surface.MaxA = surface.MaxB = extent / 2;
     surface.StepsX = steps;
@@ -87,10 +73,7 @@ inline ScatteredSurface surfaceOf(const Cloud& cloud, SurfaceCoordinates coordin
 
 inline ScatteredVolume volumeOf(const Cloud& cloud, double extent, int steps = 5) {
     ScatteredVolume volume;
-    volume.x = cloud.x;
-    volume.y = cloud.y;
-    volume.z = cloud.z;
-    volume.v = cloud.w;
+    volume.x = cloud.x, volume.y = cloud.y, volume.z = cloud.z, volume.v = cloud.w;
     volume.MinX = volume.MinY = volume.MinZ = -extent / 2;
     volume.MaxX = volume.MaxY = volume.MaxZ = extent / 2;
     volume.StepsX = steps;
@@ -115,6 +98,7 @@ struct SurfaceColumns {
             column->assign(size, -1);
     }
     SurfaceNodes nodes() { return {.x = x, .y = y, .z = z, .c = c, .a = a, .b = b, .d = d}; }
+    bool operator==(const SurfaceColumns&) const = default;
 
     std::vector<double> x, y, z, c, a, b, d;
 };
@@ -126,6 +110,7 @@ struct VolumeColumns {
             column->assign(size, -1);
     }
     VolumeNodes nodes() { return {.x = x, .y = y, .z = z, .v = v, .c = c}; }
+    bool operator==(const VolumeColumns&) const = default;
 
     std::vector<double> x, y, z, v, c;
 };

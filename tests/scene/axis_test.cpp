@@ -83,26 +83,20 @@ TEST(Axis, gridLinesRunAlongTheAxisOfTheirName) {
     EXPECT_EQ(drawn.blocks.front().color, (Place{0, 0, 0}));
     EXPECT_EQ(drawn.blocks.front().vertices[0], (Place{0.5, 1.75, 2.875})) << "the edges meet where the minima do";
     EXPECT_EQ(drawn.blocks.front().vertices[4], (Place{0.5, 1.75, 2.875}));
-    struct Family {
-        std::size_t along;
-        std::size_t panel;
-        std::size_t lines;
-    };
     const std::array<Place, 2> corners{{{0.5, 1.75, 2.875}, {10.58, 6.83, 4.955}}};
-    // In the order of the panels: YZ at the box's smallest z, XZ at its smallest x, XY at its smallest y.
-    const std::array<Family, 6> families{{{0, 2, 4}, {1, 2, 3}, {2, 0, 4}, {1, 0, 2}, {2, 1, 3}, {0, 1, 2}}};
-    for (std::size_t f = 0; f < families.size(); ++f) {
-        const Family& family = families[f];
+    // The axes along the lines and across the panel, and how many lines, in the order of the panels: YZ at the box's
+    // smallest z, XZ at its smallest x, XY at its smallest y.
+    const std::size_t families[6][3] = {{0, 2, 4}, {1, 2, 3}, {2, 0, 4}, {1, 0, 2}, {2, 1, 3}, {0, 1, 2}};
+    for (std::size_t f = 0; f < 6; ++f) {
+        const auto& [along, panel, lines] = families[f];
         const std::vector<Place>& vertices = drawn.blocks[f + 1].vertices;
-        ASSERT_EQ(vertices.size(), 2 * family.lines) << f;
-        const std::size_t across = 3 - family.along - family.panel;
+        ASSERT_EQ(vertices.size(), 2 * lines) << f;
+        const std::size_t across = 3 - along - panel;
+        const double step = (corners[1][across] - corners[0][across]) / static_cast<double>(lines - 1);
         for (std::size_t i = 0; i < vertices.size(); ++i) {
-            EXPECT_EQ(vertices[i][family.panel], corners[0][family.panel]) << f;
-            EXPECT_NEAR(vertices[i][family.along], corners[i % 2][family.along], 1e-12) << f;
-            const double part = static_cast<double>(i / 2) / static_cast<double>(family.lines - 1);
-            EXPECT_NEAR(vertices[i][across], corners[0][across] + part * (corners[1][across] - corners[0][across]),
-                        1e-12)
-                << f;
+            EXPECT_EQ(vertices[i][panel], corners[0][panel]) << f;
+            EXPECT_NEAR(vertices[i][along], corners[i % 2][along], 1e-12) << f;
+            EXPECT_NEAR(vertices[i][across], corners[0][across] + static_cast<double>(i / 2) * step, 1e-12) << f;
         }
     }
     EXPECT_EQ(drawn.blocks.back().vertices.size(), 2U * (2 + 3 + 4)) << "a tick for each label";
