@@ -122,7 +122,10 @@ std::string outcomeOf(Evaluate evaluate) {
 class Comparison {
  public:
     Comparison() {
-        context_.report = [this](std::string_view, std::string_view text) { message_ = text; };
+        context_.report = [this](std::string_view title, std::string_view text) {
+            EXPECT_EQ(title, "Error");
+            message_ = text;
+        };
     }
 
     /// Returns what both gave; they have to agree.

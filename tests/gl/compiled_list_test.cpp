@@ -13,7 +13,7 @@ constexpr int cells = 12;
 DisplayList grid(bool asQuads) {
     DisplayList list;
     list.glLineWidth(1);
-    for (int i = 0; i < cells; ++i) {
+    for (int i = 0; i < cells; ++i)
         for (int j = 0; j < cells; ++j) {
             list.glBegin(asQuads ? GL_QUADS : GL_LINES);
             list.glColor3d(0.2, 0.4, 0.6);
@@ -28,7 +28,6 @@ DisplayList grid(bool asQuads) {
             list.glEnd();
             list.glLineWidth(1);
         }
-    }
     return list;
 }
 

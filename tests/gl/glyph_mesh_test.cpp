@@ -54,6 +54,10 @@ Vector3f cross(const Vector3f& a, const Vector3f& b) {
     return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
 }
 
+Vector3f minus(const Vector3f& a, const Vector3f& b) {
+    return {a[0] - b[0], a[1] - b[1], a[2] - b[2]};
+}
+
 double dot(const Vector3f& a, const Vector3f& b) {
     return double{a[0]} * b[0] + double{a[1]} * b[1] + double{a[2]} * b[2];
 }
@@ -88,13 +92,8 @@ TEST(GlyphMesh, NormalsStandOnTheTrianglesAndLookOutside) {
         const GlyphMesh& mesh = *glyphs.mesh(static_cast<unsigned char>(code));
         ASSERT_EQ(mesh.normals.size(), mesh.positions.size());
         for (std::size_t i = 0; i < mesh.triangles.size(); i += 3) {
-            const auto side = [&](std::size_t k) {
-                Vector3f edge{};
-                for (std::size_t axis = 0; axis < 3; ++axis)
-                    edge[axis] = mesh.positions[mesh.triangles[i + k]][axis] - mesh.positions[mesh.triangles[i]][axis];
-                return edge;
-            };
-            const Vector3f across = cross(side(1), side(2));
+            const auto corner = [&](std::size_t k) { return mesh.positions[mesh.triangles[i + k]]; };
+            const Vector3f across = cross(minus(corner(1), corner(0)), minus(corner(2), corner(0)));
             const Vector3f& normal = mesh.normals[mesh.triangles[i]];
             EXPECT_NEAR(dot(normal, normal), 1, 1e-5);
             EXPECT_GE(dot(across, normal), 0.999 * std::sqrt(dot(across, across)) - 1e-9) << code;
@@ -120,11 +119,9 @@ TEST(GlyphMesh, CrossingAndDegenerateContoursAreFilledWithoutAFault) {
     const GlyphMesh overlapping = extrude(outline);
     double front = 0;
     for (std::size_t i = 0; i < overlapping.surface.size(); i += 3) {
-        const Vector3f& a = overlapping.points[overlapping.surface[i]];
-        const Vector3f& b = overlapping.points[overlapping.surface[i + 1]];
-        const Vector3f& c = overlapping.points[overlapping.surface[i + 2]];
-        if (a[2] == 0 && b[2] == 0 && c[2] == 0)
-            front += ((b[0] - a[0]) * (c[1] - a[1]) - (b[1] - a[1]) * (c[0] - a[0])) / 2;
+        const auto corner = [&](std::size_t k) { return overlapping.points[overlapping.surface[i + k]]; };
+        if (corner(0)[2] == 0 && corner(1)[2] == 0 && corner(2)[2] == 0)
+            front += cross(minus(corner(1), corner(0)), minus(corner(2), corner(0)))[2] / 2;
     }
     EXPECT_NEAR(front, 1.75, 1e-5);
     outline.contours = {{{0, 0}, {1, 0}, {2, 0}}};

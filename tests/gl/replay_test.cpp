@@ -86,33 +86,6 @@ TEST(Replay, KeepsOrderWeightsAndDepthOfTheSamples) {
     EXPECT_GT(difference.drawnShare, 0.99);
 }
 
-TEST(Replay, StateRunsOnFromListToListAndFromSampleToSample) {
-    BothWays both;
-    auto first = std::make_shared<DisplayList>();
-    first->glEnable(GL_LIGHTING);
-    addRectangle(*first, -6, -2, 0, 3);  // In the colour and normal that the list before, or the sample before, left.
-    first->glColor3d(0.9, 0.2, 0.1);
-    first->glNormal3d(0.3, 0.9, 0.3);
-    auto second = std::make_shared<DisplayList>();
-    addRectangle(*second, -2, -2, 0, 3);
-    second->glPushMatrix();
-    second->glTranslatef(4, 0, 0);
-    second->glRotatef(30, 1, 0, 0);
-    second->gluSphere(1.5, 12, 9);
-    second->glPopMatrix();
-    second->glDisable(GL_LIGHTING);
-    addRectangle(*second, 2, -4, 0, 2);
-    second->glColor3d(0.1, 0.2, 0.9);
-    auto body = std::make_shared<DisplayList>();
-    body->glCallList(first);
-    body->glCallList(second);
-    for (int frames = 0; frames < 2; ++frames) {
-        const Difference difference = both.draw(frameOf(body, 2 + frames));
-        EXPECT_LE(difference.share, 0.0005);
-        EXPECT_GT(difference.drawnShare, 0.1);
-    }
-}
-
 TEST(Replay, LeavesToImmediateModeWhatNoBatchCanHold) {
     BothWays both;
     auto list = std::make_shared<DisplayList>();
@@ -157,25 +130,6 @@ TEST(Replay, LeavesToImmediateModeWhatNoBatchCanHold) {
     const Difference difference = both.draw(frameOf(list, 3));
     EXPECT_LE(difference.share, 0.0005);
     EXPECT_GT(difference.drawnShare, 0.05);
-}
-
-TEST(Replay, SpheresAreDrawnInEveryPolygonMode) {
-    BothWays both;
-    for (const GLenum mode : {GL_LINE, GL_POINT, GL_FILL}) {
-        // Inherited from outside, set in the list, and set by a list that is called.
-        auto inner = std::make_shared<DisplayList>();
-        inner->glPolygonMode(GL_FRONT_AND_BACK, mode);
-        inner->gluSphere(1, 9, 7);
-        auto list = std::make_shared<DisplayList>();
-        list->gluSphere(3.5, 14, 11);
-        list->glTranslatef(4, 0, 0);
-        list->glCallList(inner);
-        list->glTranslatef(-8, 0, 0);
-        list->gluSphere(2, 8, 8);
-        const Difference difference = both.draw(frameOf(list, 2));
-        EXPECT_LE(difference.share, 0.002) << mode;
-        EXPECT_GT(difference.drawnShare, 0.01) << mode;
-    }
 }
 
 TEST(Replay, SpheresShowTheirBacksWhereOneSeesThem) {

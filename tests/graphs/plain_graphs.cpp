@@ -8,6 +8,7 @@
 #include "geometry/contour.h"
 #include "graphs/color_fill.h"
 #include "graphs/emitters.h"
+#include "scene/material.h"
 
 namespace tessaplot::graphs {
 
@@ -451,7 +452,7 @@ void plainVectors4D(gl::DisplayList& list, Cls9& graph, const GraphContext& cont
     const int u = graph.StepU;
     const int v = graph.StepV;
     const int h = graph.StepH;
-    beginSmooth(list, true);
+    if (graph.Material != scene::neon) beginSmooth(list, true);
     color3f(list, graph.VectorColor);
     arrowsOver({1, u}, {1, v}, {1, h}, 1, 1);
     arrowsOver({0, u}, {0, v}, {0, 1}, 0, 1);
@@ -555,7 +556,7 @@ void plainSlices4D(gl::DisplayList& list, Cls9& graph, const GraphContext& conte
                     {slice.ContLevels / context.scaling.ScaleV, 4, slice.ContColor, slice.ContColor, {}},
                     [&](int i, int j) { return value(i0 + i, j0 + j); }, vertexAt);
             if (!slice.ShowVect) continue;
-            beginSmooth(list, true);
+            if (graph.Material != scene::neon) beginSmooth(list, true);
             color3f(list, across == 2 ? 0 : slice.VectColor);
             for (int i = i0 + 1; i < i1; ++i)
                 for (int j = j0 + 1; j < j1; ++j) {
