@@ -132,6 +132,25 @@ TEST(Replay, LeavesToImmediateModeWhatNoBatchCanHold) {
     EXPECT_GT(difference.drawnShare, 0.05);
 }
 
+TEST(Replay, SpheresAreDrawnInEveryPolygonMode) {
+    BothWays both;
+    for (const GLenum mode : {GL_LINE, GL_POINT, GL_FILL}) {
+        // Inherited from outside, set in the list, and set by a list that is called.
+        auto inner = std::make_shared<DisplayList>();
+        inner->glPolygonMode(GL_FRONT_AND_BACK, mode);
+        inner->gluSphere(1, 9, 7);
+        auto list = std::make_shared<DisplayList>();
+        list->gluSphere(3.5, 14, 11);
+        list->glTranslatef(4, 0, 0);
+        list->glCallList(inner);
+        list->glTranslatef(-8, 0, 0);
+        list->gluSphere(2, 8, 8);
+        const Difference difference = both.draw(frameOf(list, 2));
+        EXPECT_LE(difference.share, 0.002) << mode;
+        EXPECT_GT(difference.drawnShare, 0.01) << mode;
+    }
+}
+
 TEST(Replay, SpheresShowTheirBacksWhereOneSeesThem) {
     BothWays both;
     const auto spheresAfter = [](const std::function<void(DisplayList&)>& prepare) {

@@ -61,6 +61,8 @@ TEST(Trackball, standardAnglesShowTheSceneAsTheirNamesSay) {
     expectNear(turned(BuildRotMatrix(quatFromAngles(0, -90, 0)), up), front, 1e-5);
     expectNear(turned(BuildRotMatrix(quatFromAngles(0, 0, 90)), right), front, 1e-5);
     expectNear(turned(BuildRotMatrix(quatFromAngles(90, 0, 0)), up), right, 1e-5);
+    // The yaw comes first, to the front, then the pitch, down, then the roll.
+    expectNear(turned(BuildRotMatrix(quatFromAngles(90, -90, 90)), right), {-1, 0, 0}, 1e-5);
     EXPECT_DOUBLE_EQ(quatFromAngles(0, 0, 45)[1], std::sin(45 * (3.1416 / 180) / 2)) << "the short value of pi";
 }
 
