@@ -1,8 +1,12 @@
 #pragma once
 
-#include <filesystem>
+#include <cstdlib>
 #include <string>
 #include <vector>
+
+#include <sys/wait.h>
+
+#include "base/files.h"
 
 namespace tessaplot {
 
@@ -13,26 +17,26 @@ struct ProgramRun {
     std::string err;
 };
 
+inline std::string quoted(const std::string& text) {
+    std::string result = "'";
+    for (const char c : text)
+        result += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return result + "'";
+}
+
 /// Runs a program to its end, without a display.
-ProgramRun runProgram(const std::string& program, const std::vector<std::string>& arguments);
+inline ProgramRun runProgram(const std::string& program, const std::vector<std::string>& arguments) {
+    const TemporaryFolder folder;
+    std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY " + quoted(program);
+    for (const std::string& argument : arguments)
+        command += ' ' + quoted(argument);
+    command += " >" + quoted(folder / "out") + " 2>" + quoted(folder / "err") + " </dev/null";
+    const int ended = std::system(command.c_str());
+    return {WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, bytesOf(folder / "out"), bytesOf(folder / "err")};
+}
 
-/// Runs tessaplot-cli.
-ProgramRun cli(const std::vector<std::string>& arguments);
-
-std::string bytesOf(const std::filesystem::path& path);
-
-/// A folder that is removed again.
-class TemporaryFolder {
- public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    std::string operator/(const std::string& name) const { return (path_ / name).string(); }
-    const std::filesystem::path& path() const { return path_; }
-
- private:
-    std::filesystem::path path_;
-};
+inline ProgramRun cli(const std::vector<std::string>& arguments) {
+    return runProgram(TESSAPLOT_CLI, arguments);
+}
 
 }  // namespace tessaplot

@@ -2,7 +2,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <iterator>
 #include <optional>
@@ -18,6 +17,7 @@
 #include <unistd.h>
 
 #include "base/failure.h"
+#include "base/files.h"
 #include "core/document.h"
 #include "core/example_state.h"
 #include "ui/main_window.h"
@@ -34,7 +34,7 @@ struct Plan {
     Fault fault = Fault::Fail;
     std::size_t at = 0;  ///< 0 for none of them.
     int error = ENOSPC;
-    fs::path folder;
+    fs::path folder = {};
 };
 
 constexpr int killed = 77;
@@ -121,19 +121,9 @@ int inAnotherProcess(const std::optional<Plan>& planned, const std::function<voi
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-std::string bytesOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 class CrashSafety : public testing::Test {
  protected:
     void SetUp() override {
-        folder = fs::path(testing::TempDir()) /
-                 ("crash-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-        path = folder / "kept.tsp";
         fillPanel(state.panel, data::DataKind::RegularSurface);
         addGraph(state, graphs::graph_type::gridModel);
         state.TheAxis.TitleX = std::string(70000, 'x');
@@ -141,37 +131,42 @@ class CrashSafety : public testing::Test {
         state.TheAxis.TitleX = "short";
         shortText = documentText(partsOf(state, state.AllGraphs));
     }
-    void TearDown() override {
-        plan.reset();
-        fs::remove_all(folder);
-    }
+    void TearDown() override { plan.reset(); }
 
-    std::string savedBytes(const std::string& before, const std::string& after) {
-        fs::remove(path);
-        if (!before.empty()) writeDocumentFile(path, before);
-        writeDocumentFile(path, after);
-        return bytesOf(path);
-    }
+    /// The bytes of the file, with this text or not there at all.
     std::string startWith(const std::string& text) {
         fs::remove(path);
         if (!text.empty()) writeDocumentFile(path, text);
         return bytesOf(path);
     }
-    std::ptrdiff_t filesBeside() const { return std::distance(fs::directory_iterator(folder), {}); }
+    std::ptrdiff_t files() const { return std::distance(fs::directory_iterator(folder), {}); }
+    /// What a process of its own ends with that saves, at one of its calls disturbed.
+    int saved(const std::string& text, const std::optional<Plan>& planned = {}) const {
+        return inAnotherProcess(planned, [&] { writeDocumentFile(path, text); });
+    }
+
+    /// Saves in this process, which notes its calls.
+    void saveHere(const Plan& planned) {
+        plan = planned;
+        calls.clear();
+        writeDocumentFile(path, longText);
+        plan.reset();
+    }
 
     /// Saves with `fault` at every call in turn and holds what is left against the old file and the new one.
     void disturbEveryCall(Fault fault, const std::string& before, const std::string& after) {
-        const std::string whole = savedBytes(before, after);
+        startWith(before);
+        writeDocumentFile(path, after);
+        const std::string whole = bytesOf(path);
         for (std::size_t at = 1;; ++at) {
             const std::string old = startWith(before);
-            const int ended =
-                inAnotherProcess(Plan{fault, at, ENOSPC, folder}, [&] { writeDocumentFile(path, after); });
+            const int ended = saved(after, Plan{fault, at});
             const std::string left = bytesOf(path);
             ASSERT_TRUE(left == old || left == whole) << "a mixture is left by the call " << at;
             EXPECT_TRUE(ended != 0 || left == whole) << "a save that tells of no failure has happened";
             if (ended == 0) break;
             ASSERT_EQ(ended, fault == Fault::Fail ? 1 : killed);
-            EXPECT_TRUE(fault != Fault::Fail || filesBeside() == (before.empty() ? 0 : 1)) << at;
+            EXPECT_TRUE(fault != Fault::Fail || files() == (before.empty() ? 0 : 1)) << at;
             ASSERT_LT(at, 50U);
             outcomes.insert(left == whole ? "new" : "old");
         }
@@ -180,8 +175,8 @@ class CrashSafety : public testing::Test {
     AppState state;
     std::string longText;
     std::string shortText;
-    fs::path folder;
-    fs::path path;
+    TemporaryFolder folder;
+    fs::path path = folder / "kept.tsp";
     std::set<std::string> outcomes;
 };
 
@@ -202,20 +197,14 @@ TEST_F(CrashSafety, anyCallThatFailsIsToldAndLeavesTheOldDocumentAndNothingBesid
 }
 
 TEST_F(CrashSafety, bytesAreOnTheDiskBeforeTheyTakeThePlaceOfTheOld) {
-    plan = Plan{};
-    calls.clear();
-    writeDocumentFile(path, longText);
-    plan.reset();
+    saveHere({});
     const auto lastWrite = std::find(calls.rbegin(), calls.rend(), "write").base();
     const auto sync = std::find(lastWrite, calls.end(), "fsync");
     EXPECT_NE(std::find(sync, calls.end(), "rename"), calls.end()) << testing::PrintToString(calls);
 }
 
 TEST_F(CrashSafety, shortAndInterruptedWritesGoOn) {
-    plan = Plan{Fault::ShortAndInterrupted, 0, 0, folder};
-    calls.clear();
-    writeDocumentFile(path, longText);
-    plan.reset();
+    saveHere({Fault::ShortAndInterrupted});
     EXPECT_EQ(readDocumentFile(path), longText);
     EXPECT_GT(std::count(calls.begin(), calls.end(), "write"), 10);
 }
@@ -223,8 +212,7 @@ TEST_F(CrashSafety, shortAndInterruptedWritesGoOn) {
 TEST_F(CrashSafety, aFolderThatVanishesDuringASaveIsTold) {
     for (std::size_t at = 1; at < 50; ++at) {
         fs::create_directories(folder);
-        const int ended =
-            inAnotherProcess(Plan{Fault::FolderVanishes, at, 0, folder}, [&] { writeDocumentFile(path, longText); });
+        const int ended = saved(longText, Plan{Fault::FolderVanishes, at, 0, folder});
         if (ended == 0) {
             EXPECT_EQ(readDocumentFile(path), longText);
             return;
@@ -237,8 +225,7 @@ TEST_F(CrashSafety, aFolderThatVanishesDuringASaveIsTold) {
 TEST_F(CrashSafety, aReadOnlyFolderKeepsItsDocument) {
     const std::string old = startWith(shortText);
     fs::permissions(path, fs::perms::all);
-    fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
-                                fs::perms::others_exec | fs::perms::group_read | fs::perms::group_exec);
+    fs::permissions(folder, fs::perms{0555});
     constexpr uid_t nobody = 65534;
     const int ended = inAnotherProcess({}, [&] {
         if (geteuid() == 0 && setuid(nobody) != 0) return;
@@ -250,24 +237,21 @@ TEST_F(CrashSafety, aReadOnlyFolderKeepsItsDocument) {
 }
 
 TEST_F(CrashSafety, aFullDiskKeepsItsDocument) {
-    if (mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=64k") != 0)
+    const fs::path& where = folder;
+    if (mount("tmpfs", where.c_str(), "tmpfs", 0, "size=64k") != 0)
         GTEST_SKIP() << "a disk of its own takes a system administrator";
     const std::string old = startWith(shortText);
-    const int ended = inAnotherProcess({}, [&] { writeDocumentFile(path, longText); });
-    const std::string left = bytesOf(path);
-    const std::ptrdiff_t files = filesBeside();
-    umount(folder.c_str());
-    EXPECT_EQ(ended, 1);
-    EXPECT_EQ(left, old);
-    EXPECT_EQ(files, 1) << "what did not fit is removed";
+    EXPECT_EQ(saved(longText), 1);
+    EXPECT_EQ(bytesOf(path), old);
+    EXPECT_EQ(files(), 1) << "what did not fit is removed";
+    umount(where.c_str());
 }
 
 TEST_F(CrashSafety, aRecoveryDocumentIsWholeOrNotThereAndOpensAgain) {
     showGridModel(state);
     const ui::frmF1 window(state);
     for (std::size_t at = 1; at < 50; ++at) {
-        const int ended =
-            inAnotherProcess(Plan{Fault::DieHalfway, at, 0, folder}, [&] { window.saveRecovery(folder); });
+        const int ended = inAnotherProcess(Plan{Fault::DieHalfway, at}, [&] { window.saveRecovery(folder); });
         for (const auto& entry : fs::directory_iterator(folder)) {
             if (entry.path().extension() != ".tsp") continue;
             AppState opened;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
+#include "base/joined.h"
 #include "core/document.h"
 #include "core/record_reader.h"
 #include "example_state.h"
@@ -49,41 +50,22 @@ TEST_P(Generation, recordIsReadTokenByTokenAndSavedAsTheNewest) {
     TokenReader in(text, tokenTableSize);
     readGraphRecord(in, generation, graph, gridding);
     EXPECT_EQ(in.peek(), "") << "every token is taken";
-    EXPECT_EQ(graph.GraphType, 43);
-    EXPECT_EQ(graph.NameS, generation == 0 ? "name" : "two words");
-    EXPECT_EQ(graph.LineColor, 101);
-    EXPECT_EQ(graph.FillStyle, 103);
-    EXPECT_EQ(graph.SecondColor, 105);
-    EXPECT_EQ(graph.Material, 106);
-    EXPECT_EQ(graph.StepV, 110);
-    EXPECT_EQ(graph.PointColor, 111);
-    EXPECT_EQ(graph.PointSize, 1.5);
-    EXPECT_FALSE(graph.ShowColormap);
-    EXPECT_EQ(graph.ContourLevel, 2.5);
-    EXPECT_TRUE(graph.ShowVector);
-    EXPECT_EQ(graph.GridWidth, 115);
-    EXPECT_EQ(graph.ContourLevels, 3.5);
-    EXPECT_EQ(graph.ConColor2, 118);
-    EXPECT_EQ(graph.Con3Width, 122);
-    EXPECT_EQ(graph.ColorMapcolor2, 126);
-    EXPECT_TRUE(graph.ShowIrregData);
-    EXPECT_EQ(graph.Vect4DColor, generation >= 1 ? 128 : 0);
-    EXPECT_EQ(graph.SlicesX.Num, generation >= 1 ? 1 : 0);
-    EXPECT_EQ(graph.SlicesZ[2].VectColor, generation >= 1 ? 9 : 0);
-    EXPECT_EQ(graph.SlicesX[1].ShowCont, generation >= 1);
-    EXPECT_EQ(graph.TransAlpha, generation >= 1 ? 0.75 : 0);
+    EXPECT_EQ(joined(graph.GraphType, graph.LineColor, graph.FillStyle, graph.SecondColor, graph.Material, graph.StepV,
+                     graph.PointColor, graph.PointSize, graph.ShowColormap, graph.ContourLevel, graph.ShowVector,
+                     graph.GridWidth, graph.ContourLevels, graph.ConColor2, graph.Con3Width, graph.ColorMapcolor2,
+                     graph.ShowIrregData, graph.IsoSurColor, gridding.VolumeGridMethod),
+              " 43 101 103 105 106 110 111 1.5 0 2.5 1 115 3.5 118 122 126 1 131 103");
+    EXPECT_EQ(joined(graph.Vect4DColor, graph.SlicesX.Num, graph.SlicesZ[2].VectColor, graph.SlicesX[1].ShowCont,
+                     graph.TransAlpha),
+              generation >= 1 ? " 128 1 9 1 0.75" : " 0 0 0 0 0");
     EXPECT_EQ(graph.TriWidth, generation >= 2 ? 130 : 0);
-    EXPECT_EQ(graph.ColorName, generation >= 3 ? "MY  MAP" : "");
-    EXPECT_EQ(graph.ColorNum, generation >= 3 ? 2 : 6);
-    EXPECT_EQ(graph.ColorB(1), generation >= 3 ? 6 : 255);
-    EXPECT_EQ(graph.SlicesZ[2].SecondEnd, generation >= 3 ? 212 : 0);
-    EXPECT_EQ(graph.IsoSurColor, 131);
-    EXPECT_EQ(gridding.VolumeGridMethod, 103);
+    EXPECT_EQ(joined(graph.NameS, graph.ColorName, graph.ColorNum, graph.ColorB(1), graph.SlicesZ[2].SecondEnd),
+              generation == 0   ? " name  6 255 0"
+              : generation >= 3 ? " two words MY  MAP 2 6 212"
+                                : " two words  6 255 0");
 
     const std::string newest = graphRecord(graph, gridding);
-    if (generation >= 3) {
-        EXPECT_EQ(newest, text);
-    }
+    EXPECT_TRUE(generation < 3 || newest == text) << newest;
     graphs::Cls9 again;
     TokenReader second(newest, tokenTableSize);
     readGraphRecord(second, 4, again, gridding);
@@ -95,11 +77,10 @@ TEST_P(Generation, wholeDocumentOfEveryKindIsReadAndBecomesTheNewest) {
     for (int kind = 0; kind < data::dataKindCount; ++kind) {
         AppState state;
         fillPanel(state.panel, static_cast<DataKind>(kind));
-        const std::string newest =
-            documentText({state.scene.SceneMode, state.panel, {}, state.TheAxis, state.scaling, state.gridding});
+        const std::string newest = documentText(partsOf(state, state.AllGraphs));
         // The data record of an old generation is that of the newest without the colour column of surfaces.
         std::string old = generation == 0 ? "D1" : "D" + std::to_string(generation) + "1";
-        std::string data = newest.substr(newest.find(' ', newest.find(' ') + 1) + 1);
+        const std::string data = newest.substr(newest.find(' ', newest.find(' ') + 1) + 1);
         TokenReader in(data, tokenTableSize);
         const auto keep = [&](int count) {
             for (int i = 0; i < count; ++i)
@@ -134,19 +115,19 @@ TEST_P(Generation, wholeDocumentOfEveryKindIsReadAndBecomesTheNewest) {
                 EXPECT_EQ(document->panel.Text(box), state.panel.Text(box)) << "kind " << kind << " box " << box;
             }
 
-        const DocumentParts parts{document->SceneMode, document->panel, {&document->graphs[0]},
-                                  document->axis,      state.scaling,   *document->gridding};
-        const std::string saved = documentText(parts);
+        const auto textOf = [&](const Document& one) {
+            return documentText({one.SceneMode,
+                                 one.panel,
+                                 {&one.graphs[0]},
+                                 one.axis,
+                                 one.scaling.value_or(state.scaling),
+                                 *one.gridding});
+        };
+        const std::string saved = textOf(*document);
         EXPECT_TRUE(saved.starts_with("D41 1 "));
         const auto reread = readDocument(saved);
         ASSERT_TRUE(reread);
-        EXPECT_EQ(documentText({reread->SceneMode,
-                                reread->panel,
-                                {&reread->graphs[0]},
-                                reread->axis,
-                                *reread->scaling,
-                                *reread->gridding}),
-                  saved);
+        EXPECT_EQ(textOf(*reread), saved);
     }
 }
 
@@ -194,9 +175,7 @@ TEST(DocumentText, aTextCutAnywhereIsReadOrRefusedButNeverHangs) {
         try {
             const auto document = readDocument(whole.substr(0, length));
             EXPECT_EQ(document.has_value(), length >= 2 && whole.substr(0, length) != "D4") << length;
-            if (document && length > 10) {
-                EXPECT_EQ(document->graphs.size(), 1U);
-            }
+            EXPECT_TRUE(!document || length <= 10 || document->graphs.size() == 1U) << length;
         } catch (const base::Failure&) {
         }
     }

@@ -1,10 +1,12 @@
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
+#include "base/files.h"
 #include "core/document.h"
 #include "core/refresh.h"
 #include "example_state.h"
@@ -13,33 +15,45 @@ namespace tessaplot::core {
 namespace {
 
 namespace fs = std::filesystem;
+namespace type = graphs::graph_type;
 
 class LoadDocumentTest : public testing::Test {
  protected:
-    fs::path put(const std::string& text) {
-        const fs::path path =
-            fs::path(testing::TempDir()) /
-            ("load-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()) + ".tsp");
-        fs::remove(path);
-        writeDocumentFile(path, text);
-        return path;
+    void SetUp() override {
+        state.desktop.ask = [this](const platform::Message& message) {
+            told.push_back(message.text);
+            return platform::Answer::Ok;
+        };
     }
-    fs::path putExample(int graphType = graphs::graph_type::gridModel) {
+    fs::path written(const std::string& text) {
+        fs::remove(folder / "document.tsp");
+        writeDocumentFile(folder / "document.tsp", text);
+        return folder / "document.tsp";
+    }
+    /// A document with these graphs, numbered 7, 6 and so on.
+    fs::path example(std::initializer_list<int> graphTypes = {type::gridModel, type::vertexModel},
+                     data::DataKind kind = data::DataKind::RegularSurface) {
         AppState other;
-        fillPanel(other.panel, data::DataKind::RegularSurface);
-        addGraph(other, graphType)->ID = 7;
-        addGraph(other, graphs::graph_type::vertexModel)->ID = 3;
-        return put(documentText(partsOf(other, other.AllGraphs)));
+        fillPanel(other.panel, kind);
+        int id = 7;
+        for (const int graphType : graphTypes) {
+            const GraphPtr graph = addGraph(other, graphType);
+            graph->ID = id--;
+            graph->ShowDG = true;
+        }
+        return written(documentText(partsOf(other, other.AllGraphs)));
     }
 
+    TemporaryFolder folder;
     AppState state;
+    std::vector<std::string> told;
 };
 
 TEST_F(LoadDocumentTest, showsEveryGraphFittedAndTurned) {
     int pictures = 0;
     state.desktop.display = [&] { ++pictures; };
     state.UseQuat = true;
-    ASSERT_EQ(LoadDocument(state, putExample()), LoadResult::Loaded);
+    ASSERT_EQ(LoadDocument(state, example()), LoadResult::Loaded);
     EXPECT_EQ(state.LastGraphId, 8) << "one more than the largest id";
     ASSERT_EQ(state.List1.entries.size(), 2U);
     EXPECT_TRUE(state.List1.entries[1].ticked);
@@ -54,13 +68,13 @@ TEST_F(LoadDocumentTest, showsEveryGraphFittedAndTurned) {
 TEST_F(LoadDocumentTest, aDocumentThatCannotBeReadLeavesTheOpenOne) {
     showGridModel(state);
     for (const std::string text : {"D41 0 1 200 101 ", "D41 2000000000 1 1 1 1 2 3 4", "D41 0 9 1 1"}) {
-        EXPECT_THROW(LoadDocument(state, put(text)), base::Failure) << text;
+        EXPECT_THROW(LoadDocument(state, written(text)), base::Failure) << text;
         EXPECT_EQ(state.ShownGraphs.Graphs.size(), 1U);
     }
     EXPECT_THROW(LoadDocument(state, "/nowhere/at all.tsp"), base::Failure);
     EXPECT_EQ(LoadDocument(state, ""), LoadResult::NoPath);
     EXPECT_EQ(state.ShownGraphs.Graphs.size(), 1U);
-    EXPECT_EQ(LoadDocument(state, put("no such tag")), LoadResult::UnknownTag);
+    EXPECT_EQ(LoadDocument(state, written("no such tag")), LoadResult::UnknownTag);
     EXPECT_TRUE(state.AllGraphs.empty());
 }
 
@@ -71,9 +85,8 @@ TEST_F(LoadDocumentTest, dataThatCannotBeScaledLeaveTheGraphsListedAndUnticked) 
     addGraph(other, graphs::graph_type::gridModel);
     for (int row = 1; row < other.panel.gridRows(); ++row)
         other.panel.setCell(3, row, "4");
-    const fs::path flat = put(documentText(partsOf(other, other.AllGraphs)));
     try {
-        LoadDocument(state, flat);
+        LoadDocument(state, written(documentText(partsOf(other, other.AllGraphs))));
         FAIL();
     } catch (const base::Failure& failure) {
         EXPECT_THAT(failure.what(), testing::HasSubstr("range of Z is zero"));
@@ -86,52 +99,37 @@ TEST_F(LoadDocumentTest, dataThatCannotBeScaledLeaveTheGraphsListedAndUnticked) 
 }
 
 TEST_F(LoadDocumentTest, triangulatesForTheLastGraphAloneAndTellsOfCoincidentPointsOnce) {
-    std::vector<std::string> messages;
-    state.desktop.ask = [&](const platform::Message& message) {
-        messages.push_back(message.text);
-        return platform::Answer::Ok;
-    };
-    AppState other;
-    fillPanel(other.panel, data::DataKind::IrregularSurface);
-    addGraph(other, graphs::graph_type::delaunay)->ShowDG = true;
-    const std::string last = documentText(partsOf(other, other.AllGraphs));
-    ASSERT_EQ(LoadDocument(state, put(last)), LoadResult::Loaded);
+    using data::DataKind;
+    ASSERT_EQ(LoadDocument(state, example({type::delaunay}, DataKind::IrregularSurface)), LoadResult::Loaded);
     EXPECT_GT(state.TriangleCount(), 0);
     EXPECT_THAT(gl::toText(*state.compiled.graphs[0]), testing::HasSubstr("glBegin GL_LINES\n"));
-    ASSERT_EQ(messages.size(), 1U) << "every point stands in the data three times";
-    EXPECT_THAT(messages[0], testing::HasSubstr("oincident"));
+    ASSERT_EQ(told.size(), 1U) << "every point stands in the data three times";
+    EXPECT_THAT(told[0], testing::HasSubstr("oincident"));
 
-    addGraph(other, graphs::graph_type::vertexModel);
-    ASSERT_EQ(LoadDocument(state, put(documentText(partsOf(other, other.AllGraphs)))), LoadResult::Loaded);
-    EXPECT_EQ(state.TriangleCount(), 0);
+    ASSERT_EQ(LoadDocument(state, example({type::delaunay, type::vertexModel}, DataKind::IrregularSurface)),
+              LoadResult::Loaded);
     EXPECT_EQ(state.ShownGraphs.Graphs.size(), 2U);
-    EXPECT_EQ(messages.size(), 1U);
-}
-
-TEST_F(LoadDocumentTest, aGraphOfTrianglesNeedsNoScatteredPoints) {
-    ASSERT_EQ(LoadDocument(state, putExample(graphs::graph_type::delaunay)), LoadResult::Loaded);
-    AppState other;
-    for (const data::DataKind kind : {data::DataKind::RegularSurface, data::DataKind::IrregularVolume}) {
-        fillPanel(other.panel, kind);
-        addGraph(other, graphs::graph_type::delaunay);
-        EXPECT_EQ(LoadDocument(state, put(documentText(partsOf(other, other.AllGraphs)))), LoadResult::Loaded);
-        EXPECT_EQ(state.TriangleCount(), 0);
+    EXPECT_EQ(state.TriangleCount(), 0);
+    for (const DataKind kind : {DataKind::RegularSurface, DataKind::IrregularVolume}) {
+        EXPECT_EQ(LoadDocument(state, example({type::delaunay}, kind)), LoadResult::Loaded);
+        EXPECT_EQ(state.TriangleCount(), 0) << "there are no scattered points of a surface";
     }
+    EXPECT_EQ(told.size(), 1U);
 }
 
 TEST_F(LoadDocumentTest, aGraphWithoutAnEntryIsKeptButNotShown) {
-    ASSERT_EQ(LoadDocument(state, putExample(graphs::graph_type::nodesOnly)), LoadResult::Loaded);
+    ASSERT_EQ(LoadDocument(state, example({type::nodesOnly, type::vertexModel})), LoadResult::Loaded);
     EXPECT_EQ(state.AllGraphs.Graphs.size(), 2U);
     EXPECT_EQ(state.List1.entries.size(), 1U);
     EXPECT_EQ(state.ShownGraphs.Graphs.size(), 1U);
 }
 
 TEST_F(LoadDocumentTest, deletingNeedsAnIndexAndTakesTheEntryAlong) {
-    LoadDocument(state, putExample());
+    LoadDocument(state, example());
     EXPECT_THROW(DeleteGraph(state, 0), base::Failure);
     DeleteGraph(state, 1);
     ASSERT_EQ(state.List1.entries.size(), 1U);
-    EXPECT_EQ(state.List1.entries[0].graph->ID, 3);
+    EXPECT_EQ(state.List1.entries[0].graph->ID, 6);
     EXPECT_EQ(state.ShownGraphs.Graphs.size(), 1U);
     DeleteGraph(state, 1);
     EXPECT_NO_THROW(DeleteGraph(state, 0)) << "nothing is left to delete";

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
+#include "data/grid_editing.h"
 
 namespace tessaplot::data {
 namespace {
@@ -61,34 +62,33 @@ TEST(DataPanel, refusesLayoutsBeyondTheStoreAndKeepsItsShape) {
     EXPECT_EQ(panel.gridRows(), 1) << "two negative counts are no data";
 }
 
-struct CheckCase {
-    DataKind kind;
-    std::vector<std::pair<int, const char*>> boxes;
-    const char* message;
-};
-
 TEST(DataPanel, validatesBoxesInOrderAndSaysWhichOneIsWrong) {
-    const std::vector<CheckCase> cases{
-        {DataKind::RegularSurface, {{1, "abc"}, {2, "0"}}, "Illegal data exist."},
-        {DataKind::RegularSurface, {{1, "+5"}, {2, "2"}}, "Illegal data exist."},
+    const std::string illegal = "Illegal data exist.";
+    const struct {
+        DataKind kind;
+        std::vector<std::pair<int, const char*>> boxes;
+        std::string message;
+    } cases[]{
+        {DataKind::RegularSurface, {{1, "abc"}, {2, "0"}}, illegal},
+        {DataKind::RegularSurface, {{1, "+5"}, {2, "2"}}, illegal},
         {DataKind::RegularSurface, {{1, "0.5"}, {2, "2"}}, "The number of Rows X must larger than 0."},
         {DataKind::RegularSurface, {{1, "2"}, {2, "-1"}}, "The number of Rows Y must larger than 0."},
         {DataKind::IrregularSurface, {{3, "2"}}, "The number of points must larger than 3."},
         {DataKind::IrregularSurface, {{3, "3"}, {4, "1"}, {7, "0"}}, "The number of Rows Y must larger than 0."},
-        {DataKind::IrregularSurface, {{3, "3"}, {4, "1"}, {7, "1"}, {5, "x"}}, "Illegal data exist."},
+        {DataKind::IrregularSurface, {{3, "3"}, {4, "1"}, {7, "1"}, {5, "x"}}, illegal},
         {DataKind::RegularVolume, {{1, "1"}, {2, "1"}, {4, "0"}}, "The number of Rows Z must larger than 0."},
         {DataKind::IrregularVolume,
          {{3, "9"}, {4, "1"}, {7, "1"}, {10, "0"}},
          "The number of Rows Z must larger than 0."},
         {DataKind::RegularSpherical, {{1, "abc"}}, ""},
     };
-    for (const CheckCase& one : cases) {
+    for (const auto& one : cases) {
         DataPanel panel;
         panel.selectKind(one.kind);
         for (const auto& [box, text] : one.boxes)
             panel.setText(box, text);
         std::string message;
-        EXPECT_EQ(panel.CheckData(message), *one.message == '\0') << one.message;
+        EXPECT_EQ(panel.CheckData(message), one.message.empty());
         EXPECT_EQ(message, one.message);
     }
 }
@@ -98,15 +98,10 @@ TEST(DataPanel, validationCleansCellsInRowOrder) {
     panel.setText(1, "2");
     panel.setText(2, "1");
     panel.layOut();
-    panel.setCell(1, 1, "1,5");
-    panel.setCell(2, 1, "12a");
-    panel.setCell(3, 1, " 4 2 ");
+    pasteCells(panel, 1, 1, "1,5\t12a\t 4 2 ");
     std::string message;
     EXPECT_TRUE(panel.CheckData(message));
-    EXPECT_EQ(panel.cell(1, 1), "1.5");
-    EXPECT_EQ(panel.cell(2, 1), "12");
-    EXPECT_EQ(panel.cell(3, 1), "42");
-    EXPECT_EQ(panel.cell(4, 2), "0");
+    EXPECT_EQ(copyCells(panel, {1, 1, 2, 4}), "1.5\t12\t42\t0\n0\t0\t0\t0\n");
     panel.setCell(1, 2, "a1");
     EXPECT_FALSE(panel.CheckData(message));
     EXPECT_EQ(message, "Illegal data exist.");

@@ -7,36 +7,22 @@
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
+#include "data/text_table.h"
 
 namespace tessaplot::data {
 namespace {
 
 using testing::HasSubstr;
 
-struct Cells {
-    double a, b, c, d;
-};
-
-DataPanel panelOf(DataKind kind, std::initializer_list<std::pair<int, const char*>> boxes,
-                  std::initializer_list<Cells> rows) {
+/// A panel with what a data text tells: tag, sizes, rows.
+DataPanel panelOf(std::string_view text) {
     DataPanel panel;
-    panel.selectKind(kind);
-    for (const auto& [box, text] : boxes)
-        panel.setText(box, text);
-    panel.layOut();
-    int row = 0;
-    for (const Cells& cells : rows) {
-        ++row;
-        int column = 0;
-        for (const double value : {cells.a, cells.b, cells.c, cells.d})
-            panel.setCell(++column, row, std::to_string(value));
-    }
+    EXPECT_TRUE(importText(panel, text));
     return panel;
 }
 
-DataPanel plane(double z01 = 3, double z11 = 8) {
-    return panelOf(DataKind::RegularSurface, {{1, "2"}, {2, "2"}},
-                   {{1, 10, 0, 20000}, {1, 30, z01, 20001}, {5, 10, 4, 20002}, {5, 30, z11, 20003}});
+DataPanel plane(const std::string& z01 = "3") {
+    return panelOf("Rc 2 2 1 10 0 20000 1 30 " + z01 + " 20001 5 10 4 20002 5 30 8 20003");
 }
 
 std::string failureOf(const DataPanel& panel, Scaling scaling) {
@@ -88,8 +74,7 @@ TEST(ClsData, scalesByEachMode) {
 }
 
 TEST(ClsData, namesTheRangeThatCannotBeScaled) {
-    EXPECT_THAT(failureOf(panelOf(DataKind::RegularSurface, {{1, "2"}, {2, "1"}}, {{1, 2, 0, 0}, {2, 2, 1, 0}}), {}),
-                HasSubstr("range of Y is zero"));
+    EXPECT_THAT(failureOf(panelOf("R3 2 1 1 2 0 2 2 1"), {}), HasSubstr("range of Y is zero"));
     Scaling custom;
     custom.ScaleMode = 3;
     EXPECT_THAT(failureOf(plane(), custom), HasSubstr("ratio of Y is zero"));
@@ -107,7 +92,7 @@ TEST(ClsData, namesTheRangeThatCannotBeScaled) {
 TEST(ClsData, leavesTheMissingMarkerUndividedButBoxesIt) {
     ClsData data;
     Scaling scaling;
-    data.GetData(plane(missingValue), scaling, {}, {});
+    data.GetData(plane("0.12345"), scaling, {}, {});
     EXPECT_EQ(data.Reg3DZ(0, 1), missingValue);
     EXPECT_EQ(data.MinZ, 0);
     EXPECT_DOUBLE_EQ(data.Reg3DZ(1, 1), 10);
@@ -116,18 +101,14 @@ TEST(ClsData, leavesTheMissingMarkerUndividedButBoxesIt) {
 TEST(ClsData, turnsCurvilinearColumnsIntoPositions) {
     ClsData data;
     Scaling scaling;
-    data.GetData(panelOf(DataKind::RegularCylindrical, {{1, "2"}, {2, "2"}},
-                         {{0, 1, 5, 0}, {0, 2, 6, 0}, {90, 1, 7, 0}, {90, 2, 8, 0}}),
-                 scaling, {}, {});
+    data.GetData(panelOf("R3c 2 2 0 1 5 0 2 6 90 1 7 90 2 8"), scaling, {}, {});
     EXPECT_EQ(data.Reg3DB(1, 1), 2);
     EXPECT_EQ(data.Reg3DD(1, 0), 7);
     EXPECT_EQ(data.MaxA, 90);
     EXPECT_EQ(data.MinB, 1);
     const double quarter = 90 * 3.1416 / 180;
     EXPECT_EQ(data.Reg3DX(1, 1), std::cos(quarter) * 2 / scaling.ScaleX);
-    data.GetData(panelOf(DataKind::RegularSpherical, {{1, "2"}, {2, "2"}},
-                         {{0, 10, 1, 0}, {0, 80, 2, 0}, {90, 10, 3, 0}, {90, 80, 4, 0}}),
-                 scaling, {}, {});
+    data.GetData(panelOf("R3s 2 2 0 10 1 0 80 2 90 10 3 90 80 4"), scaling, {}, {});
     const double polar = 80 * 3.1416 / 180;
     EXPECT_EQ(data.Reg3DY(1, 1), std::sin(polar) * 4 * std::sin(quarter) / scaling.ScaleY);
     EXPECT_EQ(data.Reg3DZ(1, 1), std::cos(polar) * 4 / scaling.ScaleZ);
@@ -136,9 +117,7 @@ TEST(ClsData, turnsCurvilinearColumnsIntoPositions) {
 TEST(ClsData, walksAVolumeLayerByLayer) {
     ClsData data;
     Scaling scaling;
-    std::initializer_list<Cells> rows{{0, 0, 0, 1}, {0, 0, 1, 2}, {0, 2, 0, 3}, {0, 2, 1, 4},
-                                      {3, 0, 0, 5}, {3, 0, 1, 6}, {3, 2, 0, 7}, {3, 2, 1, 21}};
-    data.GetData(panelOf(DataKind::RegularVolume, {{1, "2"}, {2, "2"}, {4, "2"}}, rows), scaling, {}, {});
+    data.GetData(panelOf("R4 2 2 2 0 0 0 1 0 0 1 2 0 2 0 3 0 2 1 4 3 0 0 5 3 0 1 6 3 2 0 7 3 2 1 21"), scaling, {}, {});
     EXPECT_EQ(data.MaxV, 21);
     EXPECT_EQ(scaling.ScaleV, 2);
     EXPECT_EQ(data.Reg4DV(1, 0, 1), 3);

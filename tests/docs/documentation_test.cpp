@@ -2,6 +2,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -12,12 +13,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "base/failure.h"
 #include "base/number_text.h"
-#include "cli/run_program.h"
-#include "core/app_state.h"
-#include "core/document.h"
-#include "data/data_kind.h"
+#include "data/text_table.h"
 #include "ui/demo_table.h"
 
 namespace tessaplot {
@@ -84,25 +81,15 @@ std::vector<std::string> targetsIn(const Page& page) {
 
 std::vector<double> numbersBelowTheFirstLine(const std::string& text) {
     std::istringstream stream(text.substr(text.find('\n')));
-    std::vector<double> numbers;
-    for (double number = 0; stream >> number;)
-        numbers.push_back(number);
-    return numbers;
+    return {std::istream_iterator<double>(stream), {}};
 }
 
-/// The table of a document, row after row.
-std::vector<double> tableOf(const fs::path& document) {
-    core::AppState state;
-    try {
-        core::LoadDocument(state, document);
-    } catch (const base::Failure&) {
-        // A text tells no limits for the grid of its scattered points, so that only the table is there.
-        EXPECT_TRUE(data::isIrregular(state.panel.kind()));
-    }
+/// The table of a panel, row after row.
+std::vector<double> tableOf(const data::DataPanel& panel) {
     std::vector<double> numbers;
-    for (int row = 1; row <= state.panel.dataRows(); ++row)
+    for (int row = 1; row <= panel.dataRows(); ++row)
         for (int column = 1; column <= 4; ++column)
-            numbers.push_back(base::TextValue(state.panel.cell(column, row)));
+            numbers.push_back(base::TextValue(panel.cell(column, row)));
     return numbers;
 }
 
@@ -126,33 +113,30 @@ TEST(Documentation, everyLinkLeadsToAFileOrAHeading) {
     EXPECT_GT(links, 80);
 }
 
-TEST(Documentation, everyPictureIsShownSomewhere) {
+TEST(Documentation, everyPictureAndSampleIsShownSomewhere) {
     std::set<fs::path> shown;
     for (const Page& page : allPages())
         for (const std::string& target : targetsIn(page))
             shown.insert((page.path.parent_path() / target).lexically_normal());
-    for (const auto& entry : fs::recursive_directory_iterator(root / "docs/images")) {
-        if (!entry.is_regular_file()) continue;
-        EXPECT_THAT(shown, Contains(entry.path().lexically_normal()));
-    }
-}
-
-TEST(Documentation, theGalleryShowsEverySampleOfTheDemoMenu) {
+    for (const auto& entry : fs::recursive_directory_iterator(root / "docs/images"))
+        EXPECT_TRUE(!entry.is_regular_file() || shown.contains(entry.path().lexically_normal())) << entry.path();
     const std::vector<std::string> targets = targetsIn(readPage(root / "docs/gallery.md"));
     for (const ui::Demo& demo : ui::demos())
         EXPECT_THAT(targets, Contains("images/samples/" + fs::path(demo.fileName).stem().string() + ".png"));
 }
 
 TEST(Documentation, everyTableOfTheGuideIsReadWhole) {
-    const TemporaryFolder folder;
     int tables = 0;
     for (const auto& [kind, content] : readPage(root / "docs/guide/data.md").blocks) {
         if (kind != "data") continue;
         SCOPED_TRACE(content);
         ++tables;
-        std::ofstream(folder / "table.txt") << content;
-        EXPECT_EQ(cli({"import", folder / "table.txt", folder / "table.tsp"}).status, 0);
-        EXPECT_EQ(tableOf(folder / "table.tsp"), numbersBelowTheFirstLine(content));
+        data::DataPanel panel;
+        EXPECT_TRUE(data::importText(panel, content));
+        EXPECT_EQ(tableOf(panel), numbersBelowTheFirstLine(content));
+        if (data::isIrregular(panel.kind())) continue;  // A text tells no limits for the grid of scattered points.
+        data::Scaling scaling;
+        EXPECT_NO_THROW(data::ClsData().GetData(panel, scaling, {}, {}));
     }
     EXPECT_EQ(tables, 8);
 }

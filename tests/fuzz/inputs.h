@@ -2,17 +2,14 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
+#include "base/files.h"
+
 namespace tessaplot::fuzz {
 
-inline std::string bytesOf(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
+using tessaplot::bytesOf;
 
 /// The files of a folder in order; none for a folder that is not there.
 inline std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder) {

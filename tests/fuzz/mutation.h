@@ -20,40 +20,12 @@ class Mutator {
     }
 
  private:
-    static constexpr std::string_view tokens[] = {"-1",
-                                                  "0",
-                                                  "1",
-                                                  "2",
-                                                  "3",
-                                                  "50",
-                                                  "51",
-                                                  "65536",
-                                                  "2147483647",
-                                                  "-2147483648",
-                                                  "3000000000",
-                                                  "1E308",
-                                                  "1E400",
-                                                  "-1E-400",
-                                                  "1E",
-                                                  ".",
-                                                  "-",
-                                                  "0.12345",
-                                                  "nan",
-                                                  "@",
-                                                  "@a@",
-                                                  " ",
-                                                  "  ",
-                                                  "",
-                                                  "\t",
-                                                  "\r\n",
-                                                  ",",
-                                                  "(",
-                                                  ")",
-                                                  "^",
-                                                  "SIN(",
-                                                  std::string_view("\0\0\0\0", 4),
-                                                  "\xff\xff\xff\xff",
-                                                  "\xc3\xa9"};
+    // clang-format off
+    static constexpr std::string_view tokens[] = {
+        "-1", "0", "1", "2", "3", "50", "51", "65536", "2147483647", "-2147483648", "3000000000", "1E308", "1E400",
+        "-1E-400", "1E", ".", "-", "0.12345", "nan", "@", "@a@", " ", "  ", "", "\t", "\r\n", ",", "(", ")", "^",
+        "SIN(", std::string_view("\0\0\0\0", 4), "\xff\xff\xff\xff", "\xc3\xa9"};
+    // clang-format on
 
     std::size_t below(std::size_t count) { return count == 0 ? 0 : random_() % count; }
     std::string_view token() { return tokens[below(std::size(tokens))]; }

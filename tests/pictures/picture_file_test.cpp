@@ -2,8 +2,6 @@
 
 #include <QImage>
 #include <filesystem>
-#include <fstream>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,27 +9,28 @@
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
+#include "base/files.h"
+#include "pictures/picture_reader.h"
 
 namespace tessaplot::pictures {
 namespace {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
+using testing::HasSubstr;
 
 constexpr int width = 5;
 constexpr int height = 3;
+constexpr const char* noPicture = "holds no BMP, JPG or GIF";
+
+QImage imageAt(const fs::path& path) {
+    return QImage(QString::fromStdString(path.string()));
+}
 
 class PictureFile : public testing::Test {
  protected:
-    void SetUp() override {
-        folder = fs::path(testing::TempDir()) /
-                 ("pictures-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
     /// A picture whose pixel (x, y) tells its place; an odd width shows rows that are padded by mistake.
-    static std::vector<std::uint8_t> bytesOf(int channels) {
+    static std::vector<std::uint8_t> bytesOfPicture(int channels) {
         std::vector<std::uint8_t> bytes;
         for (int y = 0; y < height; ++y)
             for (int x = 0; x < width; ++x)
@@ -39,92 +38,105 @@ class PictureFile : public testing::Test {
                     bytes.push_back(static_cast<std::uint8_t>(channel == 0 ? 40 * x : channel == 1 ? 80 * y : 200));
         return bytes;
     }
-
-    static std::string contentOf(const fs::path& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    std::string faultOf(const fs::path& path, const Pixels& pixels) {
+    std::string writeFault(const std::string& name, const Pixels& pixels) const {
         try {
-            writePicture(path, pixels);
+            writePicture(folder / name, pixels);
         } catch (const base::Failure& failure) {
             return failure.what();
         }
         return {};
     }
+    static std::string readFault(const fs::path& path) {
+        try {
+            readPicture(path);
+        } catch (const base::Failure& failure) {
+            EXPECT_EQ(failure.code(), base::FailureCode::FileUnreadable);
+            return failure.what();
+        }
+        return {};
+    }
 
-    fs::path folder;
+    TemporaryFolder folder;
+    const std::vector<std::uint8_t> rgb = bytesOfPicture(3);
+    const std::vector<std::uint8_t> grey = std::vector<std::uint8_t>(96 * 48 * 3, 90);
 };
 
 TEST_F(PictureFile, readsBackPixelByPixelInEveryLosslessFormat) {
     for (const int channels : {3, 4}) {
-        const auto bytes = bytesOf(channels);
+        const auto bytes = bytesOfPicture(channels);
         for (const char* name : {"a.png", "A.PNG", "a b.bmp"}) {
-            const fs::path path = folder / name;
-            writePicture(path, {bytes, width, height, channels});
-            const QImage image(QString::fromStdString(path.string()));
+            writePicture(folder / name, {bytes, width, height, channels});
+            const QImage image = imageAt(folder / name);
             ASSERT_EQ(image.size(), QSize(width, height)) << name;
             for (int y = 0; y < height; ++y)
-                for (int x = 0; x < width; ++x) {
-                    const QColor color = image.pixelColor(x, y);
-                    EXPECT_EQ(color.red(), 40 * x) << name;
-                    EXPECT_EQ(color.green(), 80 * y) << name;
-                    EXPECT_EQ(color.blue(), 200) << name;
-                }
+                for (int x = 0; x < width; ++x)
+                    EXPECT_EQ(image.pixelColor(x, y).rgb() & 0xffffff, qRgb(40 * x, 80 * y, 200) & 0xffffff) << name;
         }
-        const QColor transparent = QImage(QString::fromStdString((folder / "a.png").string())).pixelColor(0, 0);
-        EXPECT_EQ(transparent.alpha(), channels == 4 ? 200 : 255);
+        EXPECT_EQ(imageAt(folder / "a.png").pixelColor(0, 0).alpha(), channels == 4 ? 200 : 255);
     }
+    const platform::Picture read = readPicture(folder / "a b.bmp");
+    EXPECT_EQ(read.width, width);
+    EXPECT_EQ(read.height, height);
+    EXPECT_EQ(read.pixels, rgb) << "from the top down without padding";
 }
 
-TEST_F(PictureFile, writesJpegOfTheSameSizeAndNearbyColours) {
-    const std::vector<std::uint8_t> bytes(32 * 16 * 3, 90);
-    writePicture(folder / "a.jpg", {bytes, 32, 16, 3});
-    const QImage image(QString::fromStdString((folder / "a.jpg").string()));
-    ASSERT_EQ(image.size(), QSize(32, 16));
-    EXPECT_NEAR(image.pixelColor(7, 7).green(), 90, 3);
+TEST_F(PictureFile, jpegKeepsSizeAndNearbyColoursAndIsReadUnderAnyName) {
+    writePicture(folder / "a.jpg", {grey, 96, 48, 3});
+    ASSERT_EQ(imageAt(folder / "a.jpg").size(), QSize(96, 48));
+    fs::rename(folder / "a.jpg", folder / "a.gif");
+    const platform::Picture photo = readPicture(folder / "a.gif");
+    ASSERT_EQ(photo.pixels.size(), grey.size());
+    EXPECT_NEAR(photo.pixels[100], 90, 3);
 }
 
 TEST_F(PictureFile, writesAPlainBitmapOfTwentyFourBitsAndAPdfPageOfThePicturesSize) {
-    const auto bytes = bytesOf(3);
-    writePicture(folder / "a.bmp", {bytes, width, height, 3});
-    const std::string bitmap = contentOf(folder / "a.bmp");
+    writePicture(folder / "a.bmp", {rgb, width, height, 3});
+    const std::string bitmap = bytesOf(folder / "a.bmp");
     ASSERT_EQ(bitmap.size(), 54U + 16 * height) << "rows of 15 bytes padded to 16";
     EXPECT_EQ(bitmap[2], static_cast<char>(bitmap.size()));
     EXPECT_EQ(bitmap[28], 24);
     EXPECT_EQ(bitmap.substr(54, 3), "\xC8\xA0\0"s) << "bottom row first; blue, green, red";
 
-    const std::vector<std::uint8_t> large(96 * 48 * 3, 90);
-    writePicture(folder / "a.pdf", {large, 96, 48, 3});
-    const std::string page = contentOf(folder / "a.pdf");
+    writePicture(folder / "a.pdf", {grey, 96, 48, 3});
+    const std::string page = bytesOf(folder / "a.pdf");
     EXPECT_THAT(page, testing::StartsWith("%PDF-1."));
-    EXPECT_THAT(page, testing::HasSubstr("/MediaBox [0 0 72"));
-    EXPECT_THAT(page, testing::HasSubstr("/Width 96"));
-    EXPECT_THAT(page, testing::Not(testing::HasSubstr("/DCTDecode"))) << "the picture is not made a JPEG";
-    EXPECT_THAT(faultOf(folder / "no" / "a.pdf", {large, 96, 48, 3}), testing::HasSubstr("cannot be written"));
+    EXPECT_THAT(page, testing::AllOf(HasSubstr("/MediaBox [0 0 72"), HasSubstr("/Width 96")));
+    EXPECT_THAT(page, testing::Not(HasSubstr("/DCTDecode"))) << "the picture is not made a JPEG";
 }
 
-TEST_F(PictureFile, tellsWhatIsWrongAndLeavesNoFile) {
-    const auto bytes = bytesOf(3);
-    const Pixels good{bytes, width, height, 3};
-    EXPECT_THAT(faultOf(folder / "a.xyz", good), testing::HasSubstr(".png, .bmp"));
-    EXPECT_THAT(faultOf(folder / "png", good), testing::HasSubstr(".png, .bmp"));
-    EXPECT_THAT(faultOf(folder / "missing" / "a.png", good), testing::HasSubstr("cannot be written"));
-    EXPECT_THAT(faultOf(folder / "a.png", {bytes, width, height + 1, 3}), testing::HasSubstr("do not fill"));
-    EXPECT_THAT(faultOf(folder / "a.png", {bytes, 0, 0, 3}), testing::HasSubstr("do not fill"));
+TEST_F(PictureFile, aFailedWriteTellsWhyAndLeavesTheOldPictureAlone) {
+    for (const char* name : {"a.xyz", "png"})
+        EXPECT_THAT(writeFault(name, {rgb, width, height, 3}), HasSubstr(".png, .bmp"));
+    for (const char* name : {"missing/a.png", "missing/a.pdf"})
+        EXPECT_THAT(writeFault(name, {rgb, width, height, 3}), HasSubstr("cannot be written"));
+    EXPECT_THAT(writeFault("a.png", {rgb, width, height + 1, 3}), HasSubstr("do not fill"));
+    EXPECT_THAT(writeFault("a.png", {rgb, 0, 0, 3}), HasSubstr("do not fill"));
     EXPECT_TRUE(fs::is_empty(folder));
+    writePicture(folder / "a.png", {rgb, width, height, 3});
+    const std::string before = bytesOf(folder / "a.png");
+    EXPECT_NE(writeFault("a.png", {rgb, width, 1, 3}), "");
+    EXPECT_EQ(bytesOf(folder / "a.png"), before);
+    fs::create_directory(folder / "b.png");
+    EXPECT_THAT(writeFault("b.png", {rgb, width, height, 3}), HasSubstr("cannot be written"));
 }
 
-TEST_F(PictureFile, replacesAnOldPictureOnlyByAWholeOne) {
-    const auto bytes = bytesOf(3);
-    const fs::path path = folder / "a.png";
-    writePicture(path, {bytes, width, height, 3});
-    const auto size = fs::file_size(path);
-    EXPECT_NE(faultOf(path, {bytes, width, 1, 3}), "");
-    EXPECT_EQ(fs::file_size(path), size);
-    fs::create_directory(folder / "b.png");
-    EXPECT_THAT(faultOf(folder / "b.png", {bytes, width, height, 3}), testing::HasSubstr("cannot be written"));
+TEST_F(PictureFile, readsAGif) {
+    // Two pixels of a palette of two colours.
+    const std::string gif("GIF89a\2\0\1\0\x80\0\0\xff\x80\0\0\0\xff,\0\0\0\0\2\0\1\0\0\2\2\x44\x0a\0;", 36);
+    const platform::Picture read = readPicture(put(folder / "a.gif", gif));
+    EXPECT_EQ(read.width, 2);
+    EXPECT_EQ(read.pixels, (std::vector<std::uint8_t>{255, 128, 0, 0, 0, 255}));
+}
+
+TEST_F(PictureFile, aFailedReadTellsWhyAFileIsNoPicture) {
+    EXPECT_THAT(readFault(folder / "missing.bmp"), HasSubstr("missing.bmp"));
+    EXPECT_THAT(readFault(put(folder / "empty.bmp", "")), HasSubstr(noPicture));
+    EXPECT_THAT(readFault(put(folder / "text.jpg", "This is no picture at all.")), HasSubstr(noPicture));
+    EXPECT_NE(readFault(folder), "");
+    writePicture(folder / "whole.bmp", {grey, 96, 48, 3});
+    EXPECT_NE(readFault(put(folder / "cut.bmp", bytesOf(folder / "whole.bmp").substr(0, 40))), "");
+    writePicture(folder / "a.png", {grey, 96, 48, 3});
+    EXPECT_THAT(readFault(folder / "a.png"), HasSubstr(noPicture));
 }
 
 }  // namespace
