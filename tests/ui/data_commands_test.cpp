@@ -1,10 +1,9 @@
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "data/text_table.h"
 #include "scripted_window.h"
 
 namespace tessaplot::ui {
@@ -31,10 +30,13 @@ class DataCommands : public ScriptedWindow {
     }
     /// All cells of the first rows.
     std::string table(int rows, int columns = 4) const { return data::copyCells(state.panel, {1, 1, rows, columns}); }
-    std::string content(const std::string& path) const {
-        std::ostringstream bytes;
-        bytes << std::ifstream(path, std::ios::binary).rdbuf();
-        return bytes.str();
+    /// Four scattered points.
+    void fillPoints() {
+        state.panel = {};
+        data::importText(state.panel, "I3 4 0 0 1 4 0 2 0 3 3 5 6 5");
+        const char* const lattice[]{"0", "8", "4", "4", "0", "8", "4"};
+        for (int box = 1; box <= 7; ++box)
+            state.panel.setText(box, lattice[box - 1]);
     }
 };
 
@@ -60,16 +62,15 @@ TEST_F(DataCommands, pastingGrowsTheGridButNothingIsLostPastTheStore) {
     paste(100, 1, "1\n2\n3");
     EXPECT_EQ(state.panel.gridRows(), 103);
     const std::string before = table(102);
-    const auto refused = [&](int row, int column, const std::string& text) {
-        asked.clear();
+    for (const auto& [row, column, text] : {std::tuple(1, 3, std::string("1\t2\t3")),
+                                            {19999, 1, "1\n2\n3"},
+                                            {1, 1, std::string(100 << 20, '\n')},
+                                            {1, 1, std::string(1 << 20, '\t')},
+                                            {1, 1, std::string(1 << 20, 'x')}}) {
         paste(row, column, text);
-        return asked.size() == 1 && table(102) == before && state.panel.gridRows() == 103;
-    };
-    EXPECT_TRUE(refused(1, 3, "1\t2\t3"));
-    EXPECT_TRUE(refused(19999, 1, "1\n2\n3"));
-    EXPECT_TRUE(refused(1, 1, std::string(100 << 20, '\n')));
-    EXPECT_TRUE(refused(1, 1, std::string(1 << 20, '\t')));
-    EXPECT_TRUE(refused(1, 1, std::string(1 << 20, 'x')));
+        EXPECT_NE(theQuestion(), "");
+        EXPECT_TRUE(table(102) == before && state.panel.gridRows() == 103);
+    }
     paste(19999, 1, "1\n2");
     EXPECT_EQ(state.panel.gridRows(), 20001);
     EXPECT_EQ(state.panel.cell(1, 20000), "2");
@@ -113,30 +114,25 @@ TEST_F(DataCommands, rowsAndColumnsAreInsertedAndDeleted) {
     window.fgdGrid_Select({});
     window.run("mnuGEPaste");
     EXPECT_THAT(asked.back(), testing::HasSubstr("No cells"));
-}
-
-TEST_F(DataCommands, theMenuOfTheGridStandsOverItsDataCells) {
     window.fgdGrid_RightClick(0, 1);
     window.fgdGrid_RightClick(1, 0);
-    EXPECT_EQ(poppedUp, "");
+    EXPECT_EQ(poppedUp, "") << "the menu stands over data cells";
     window.fgdGrid_RightClick(1, 1);
     EXPECT_EQ(poppedUp, "mnuGE");
 }
 
 TEST_F(DataCommands, dataLeaveAndEnterAsText) {
-    fillPanel(data::DataKind::IrregularSurface);
-    chosen = (folder / "points.txt").string();
+    fillPoints();
+    chosen = folder / "points.txt";
     window.run("mnuFileOutput");
-    EXPECT_EQ(asked.back(), "Output (*.txt)|*.txt");
-    EXPECT_THAT(content(chosen), testing::StartsWith("\"I3 4 0 0 1 4 0 2 0 3 3 5 6 5 "));
-    asked.clear();
+    EXPECT_EQ(theQuestion(), "Output (*.txt)|*.txt");
+    EXPECT_THAT(bytesOf(chosen), testing::StartsWith("\"I3 4 0 0 1 4 0 2 0 3 3 5 6 5 "));
     window.run("mnuFileGridded");
     EXPECT_TRUE(asked.empty()) << "not before the kind is chosen in the panel";
     window.Combo1_Click(1);
-    const std::string points = chosen;
-    chosen = (folder / "grid.txt").string();
+    chosen = folder / "grid.txt";
     window.run("mnuFileGridded");
-    EXPECT_THAT(content(chosen), testing::StartsWith("\"R3 4 4 "));
+    EXPECT_THAT(bytesOf(chosen), testing::StartsWith("\"R3 4 4 "));
 
     state.panel = {};
     window.run("mnuFileImport");
@@ -144,32 +140,30 @@ TEST_F(DataCommands, dataLeaveAndEnterAsText) {
     EXPECT_EQ(state.panel.kind(), data::DataKind::RegularSurface);
     EXPECT_EQ(state.panel.gridRows(), 17);
     EXPECT_FALSE(window.isEnabled("mnuFileGridded"));
-    chosen = points;
+    chosen = folder / "points.txt";
     window.run("mnuFileImport");
     EXPECT_EQ(state.panel.cell(3, 4), "5");
     EXPECT_TRUE(window.isEnabled("mnuFileGridded"));
 }
 
 TEST_F(DataCommands, badDataAreToldAndWriteNothing) {
-    fillPanel(data::DataKind::IrregularSurface);
+    fillPoints();
     state.panel.setText(3, "2");
     window.Combo1_Click(1);
-    chosen = (folder / "none.txt").string();
+    chosen = folder / "none.txt";
     for (const char* command : {"mnuFileOutput", "mnuFileGridded"}) {
-        asked.clear();
         window.run(command);
-        EXPECT_THAT(asked, testing::ElementsAre("Error: The number of points must larger than 3."));
+        EXPECT_EQ(theQuestion(), "Error: The number of points must larger than 3.");
     }
     state.panel.setText(3, "4");
     state.desktop.reportProgress = [](double) { return false; };
-    asked.clear();
     window.run("mnuFileGridded");
     EXPECT_TRUE(asked.empty()) << "who stops a task needs no box";
     EXPECT_EQ(status, "Cancelled.");
     EXPECT_FALSE(std::filesystem::exists(chosen));
     window.run("mnuFileImport");
     EXPECT_THAT(asked.back(), testing::HasSubstr("cannot be read"));
-    std::ofstream(chosen) << "Dear reader";
+    put(chosen, "Dear reader");
     window.run("mnuFileImport");
     EXPECT_EQ(state.panel.kind(), data::DataKind::IrregularSurface);
     EXPECT_EQ(state.panel.Text(3), "4");

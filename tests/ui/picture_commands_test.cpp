@@ -1,6 +1,4 @@
 #include <cstdint>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -27,14 +25,8 @@ class PictureCommands : public ScriptedWindow {
             asked.push_back("frame " + std::to_string(width) + " " + std::to_string(height));
             return frame;
         };
-        chosen = (folder / "picture.bmp").string();
+        chosen = folder / "picture.bmp";
     }
-    static std::string content(const fs::path& path) {
-        std::ostringstream bytes;
-        bytes << std::ifstream(path, std::ios::binary).rdbuf();
-        return bytes.str();
-    }
-
     std::vector<std::uint8_t> frame;
 };
 
@@ -50,7 +42,7 @@ TEST_F(PictureCommands, aBitmapIsOneColumnWiderAndExchangesEveryThirdByte) {
                   {100, 6, "\x65\0\0\0\x06\0\0\0\x01\0\x18\0\0\0\0\0\x20\x07\0\0"s, 304 * 6}};
     for (const auto& shape : shapes) {
         core::SaveBitmap(state.desktop, chosen, shape.width, shape.height);
-        const std::string bytes = content(chosen);
+        const std::string bytes = bytesOf(chosen);
         ASSERT_EQ(bytes.size(), 54 + shape.imageSize);
         EXPECT_EQ(bytes.substr(0, 54), start + shape.sizes + end);
         for (std::size_t i = 0; i < shape.imageSize; ++i) {
@@ -58,9 +50,9 @@ TEST_F(PictureCommands, aBitmapIsOneColumnWiderAndExchangesEveryThirdByte) {
             ASSERT_EQ(static_cast<std::uint8_t>(bytes[54 + i]), frame[from]) << "byte " << i << " of " << shape.width;
         }
     }
-    std::ofstream(chosen) << "old";
+    put(chosen, "old");
     EXPECT_THROW(core::SaveBitmap(state.desktop, chosen, 100, 100), base::Failure) << "30400 bytes are no triples";
-    EXPECT_EQ(content(chosen), "old");
+    EXPECT_EQ(bytesOf(chosen), "old");
     for (const int bad : {0, -5, 2000000000})
         EXPECT_THROW(core::SaveBitmap(state.desktop, chosen, bad, bad), base::Failure);
 }
@@ -74,15 +66,15 @@ TEST_F(PictureCommands, saveAsWritesADocumentOrThePicture) {
     EXPECT_THAT(asked, testing::ElementsAre("Save As *.tsp|*.tsp|*.bmp|*.bmp", "frame 100 50"));
     EXPECT_EQ(order, "events ");
     EXPECT_EQ(displays, 1) << "the picture is drawn anew before the question";
-    EXPECT_EQ(content(chosen).size(), 54U + 300 * 50);
+    EXPECT_EQ(bytesOf(chosen).size(), 54U + 300 * 50);
     EXPECT_TRUE(window.SaveDone);
     chosenFilter = 1;
-    chosen = (folder / "document.tsp").string();
+    chosen = folder / "document.tsp";
     window.run("mnuFileSaveAs");
-    EXPECT_THAT(content(chosen), testing::HasSubstr("D41 0 "));
+    EXPECT_THAT(bytesOf(chosen), testing::HasSubstr("D41 0 "));
 
     chosenFilter = 2;
-    chosen = (folder / "missing" / "picture.bmp").string();
+    chosen = folder / "missing" / "picture.bmp";
     window.run("mnuFileSaveAs");
     EXPECT_FALSE(window.SaveDone);
     EXPECT_THAT(status, testing::HasSubstr("cannot be written"));
