@@ -4,7 +4,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTextBrowser>
-#include <fstream>
 
 #include "qt/window_test.h"
 
@@ -59,21 +58,6 @@ TEST_F(DesktopTest, messageBoxesBringEveryAnswerBack) {
     EXPECT_EQ(state.desktop.askUser({"Note", "?", platform::Icon::None, Buttons::YesNoCancel}), Answer::Cancel);
 }
 
-TEST_F(DesktopTest, aFailingCommandShowsTheBoxAndTheWindowLivesOn) {
-    std::string shown;
-    onNext<QMessageBox>([&](QMessageBox* box) {
-        shown = box->text().toStdString();
-        QTest::keyClick(box, Qt::Key_Return);
-    });
-    for (const char* box : {"Text1", "Text2"})
-        QTest::keyClicks(find<QLineEdit>(box), "3000");
-    QTest::mouseClick(find<QPushButton>("Command1"), Qt::LeftButton);
-    EXPECT_THAT(shown, testing::HasSubstr("20000"));
-    EXPECT_TRUE(window.isVisible());
-    choose("mnuFileNew4D");
-    EXPECT_EQ(state.scene.SceneMode, scene::mode4D);
-}
-
 TEST_F(DesktopTest, fileDialogsTakeTheFilterAddTheExtensionAndCanBeCancelled) {
     const platform::FileQuestion save{platform::FileQuestion::Mode::Save, "Save", "(*.tsp)|*.tsp|Pictures|*.bmp;*.png"};
     onNext<QFileDialog>([this](QFileDialog* dialog) {
@@ -100,20 +84,8 @@ TEST_F(DesktopTest, fileDialogsTakeTheFilterAddTheExtensionAndCanBeCancelled) {
     EXPECT_FALSE(state.desktop.chooseFileName({platform::FileQuestion::Mode::Open, "Open File", "(*.tsp)|*.tsp"}));
 }
 
-TEST_F(DesktopTest, aDocumentIsSavedAndOpenedThroughTheDialogs) {
-    addGraph();
-    onNext<QFileDialog>([this](QFileDialog* dialog) { enterFile(dialog, folder / "one"); });
-    choose("mnuFileSave");
-    EXPECT_TRUE(std::filesystem::exists(folder / "one.tsp"));
-    onNext<QFileDialog>([this](QFileDialog* dialog) { enterFile(dialog, folder / "one.tsp"); });
-    state.panel.setText(1, "");
-    choose("mnuFileOpen");
-    EXPECT_EQ(state.panel.Text(1), "3");
-}
-
 TEST_F(DesktopTest, helpPagesOfTheInstallationAreShownHereAndAnAddressThatNothingOpensIsTold) {
-    std::ofstream(folder / "guide.md") << "# The guide\n\nText.\n";
-    state.desktop.openPage((folder / "guide.md").string());
+    state.desktop.openPage(put(folder / "guide.md", "# The guide\n\nText.\n").string());
     EXPECT_TRUE(find<QTextBrowser>("Help")->isVisible());
     EXPECT_THAT(find<QTextBrowser>("Help")->toPlainText().toStdString(), testing::HasSubstr("The guide"));
     qputenv("PATH", "");

@@ -3,7 +3,6 @@
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
-#include <fstream>
 
 #include "core/document.h"
 #include "qt/application.h"
@@ -60,7 +59,7 @@ TEST_F(FailureTest, outsideACommandKeepsTheWorkTellsWhereAndEndsOnce) {
 }
 
 TEST_F(FailureTest, endsAlsoWhenNothingCanBeKeptOrTold) {
-    std::ofstream(folder / "file") << "no folder";
+    put(folder / "file", "no folder");
     LastResort lastResort(form, folder / "file" / "kept");
     application().setLastResort([&](const char* message) { lastResort.take(message); });
     std::string told;
@@ -105,21 +104,19 @@ TEST_F(ProgramTest, endsWithOneForAPathThatCannotBeReadAndWithZeroWhenItsWindowC
 }
 
 TEST_F(ProgramTest, keepsADocumentOpenWhoseDataCannotBeDrawn) {
-    const fs::path path = fs::path(testing::TempDir()) / "flat.tsp";
+    const TemporaryFolder folder;
+    const fs::path path = folder / "flat.tsp";
     core::AppState state;
     for (const int box : {1, 2})
         state.panel.setText(box, "2");
     state.panel.layOut();
-    auto graph = std::make_shared<graphs::Cls9>();
-    graph->GraphType = graphs::graph_type::gridModel;
-    state.AllGraphs.Graphs.push_back(graph);
+    core::addGraph(state, graphs::graph_type::gridModel);
     core::writeDocumentFile(path, core::documentText(core::partsOf(state, state.AllGraphs)));
 
     EXPECT_EQ(run(path), 0);
     ASSERT_EQ(boxes.size(), 3U);
     EXPECT_THAT(boxes[1], HasSubstr("range"));
     EXPECT_EQ(boxes[2], "Do you want to save the graphs?");
-    fs::remove(path);
 }
 
 }  // namespace

@@ -12,6 +12,8 @@
 #include <utility>
 
 #include "base/failure.h"
+#include "base/joined.h"
+#include "data/text_table.h"
 #include "qt/window_test.h"
 #include "ui/control_makers.h"
 #include "ui/graph_forms.h"
@@ -69,24 +71,18 @@ class FormDialogTest : public WindowTest {
         QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, Qt::Key_Return);
     }
 
-    /// Values at all nodes of a small lattice, as points that are to be gridded, or as a grid.
-    void fillPanel(data::DataKind kind) {
-        constexpr int nodes = 4;
-        state.panel.selectKind(kind);
-        const bool volume = data::isVolume(kind);
-        const int points = volume ? nodes * nodes * nodes : nodes * nodes;
-        const std::array<int, 10> irregular{0, 3, points, nodes, 0, 3, nodes, 0, 3, nodes};
-        for (int box = 1; box <= 10; ++box)
-            state.panel.setText(
-                box, std::to_string(data::isIrregular(kind) ? irregular[static_cast<std::size_t>(box) - 1] : nodes));
-        state.panel.layOut();
-        for (int row = 0; row < points; ++row) {
-            const std::array<int, 3> at{volume ? row / 16 : row / 4, volume ? row / 4 % 4 : row % 4, row % 4};
-            const int value = (at[0] * at[1] + 3 * at[0]) % 7;
-            for (int column = 1; column <= 3; ++column)
-                state.panel.setCell(column, row + 1, std::to_string(at[static_cast<std::size_t>(column) - 1]));
-            state.panel.setCell(volume ? 4 : 3, row + 1, std::to_string(value));
-        }
+    /// Values at all nodes of a small lattice, as points that are to be gridded or as a grid.
+    void fillPanel(const std::string& tag) {
+        const bool volume = tag[1] == '4';
+        std::string text = tag;
+        for (int n = 0; n < (volume ? 64 : 16); ++n)
+            text += (volume ? joined(n / 16, n / 4 % 4, n % 4) : joined(n / 4, n % 4)) + joined(n * n % 7);
+        data::importText(state.panel, text);
+        if (tag[0] == 'R') return;
+        for (const auto& [box, limit] : {std::pair(1, "0"), {2, "3"}, {5, "0"}, {6, "3"}, {8, "0"}, {9, "3"}})
+            state.panel.setText(box, limit);
+        for (const int nodes : {4, 7, 10})
+            state.panel.setText(nodes, "4");
     }
 
     const QDialog* worked = nullptr;
@@ -114,24 +110,25 @@ TEST_F(FormDialogTest, everySettingDialogOpensWholeAndTakesTheReturnKey) {
 }
 
 TEST_F(FormDialogTest, everyGraphDialogOpensWholeAndAddsItsGraphByTheReturnKey) {
-    using data::DataKind;
+    const char* const regular = "R3 4 4";
+    const char* const scattered = "I3 16";
     std::size_t added = 0;
-    for (const auto& [type, kind, mode] : {std::tuple{6, DataKind::IrregularSurface, 3},
-                                           {6, DataKind::RegularSurface, 3},
-                                           {7, DataKind::RegularSurface, 3},
-                                           {13, DataKind::RegularSurface, 7},
-                                           {14, DataKind::IrregularSurface, 7},
-                                           {15, DataKind::RegularSurface, 7},
-                                           {16, DataKind::RegularSurface, 3},
-                                           {18, DataKind::IrregularSurface, 3},
-                                           {19, DataKind::RegularSurface, 3},
-                                           {24, DataKind::IrregularSurface, 3},
-                                           {41, DataKind::RegularVolume, 11},
-                                           {42, DataKind::RegularVolume, 11},
-                                           {43, DataKind::RegularVolume, 11},
-                                           {44, DataKind::IrregularVolume, 11}}) {
+    for (const auto& [type, tag, mode] : {std::tuple{6, scattered, 3},
+                                          {6, regular, 3},
+                                          {7, regular, 3},
+                                          {13, regular, 7},
+                                          {14, scattered, 7},
+                                          {15, regular, 7},
+                                          {16, regular, 3},
+                                          {18, scattered, 3},
+                                          {19, regular, 3},
+                                          {24, scattered, 3},
+                                          {41, "R4 4 4 4", 11},
+                                          {42, "R4 4 4 4", 11},
+                                          {43, "R4 4 4 4", 11},
+                                          {44, "I4 64", 11}}) {
         state.scene.SceneMode = mode;
-        fillPanel(kind);
+        fillPanel(tag);
         const auto dialog = ui::makeGraphForm(state, type);
         onNext(lookAndAccept);
         asked.clear();

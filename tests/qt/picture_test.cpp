@@ -1,3 +1,4 @@
+#include <QLineEdit>
 #include <QListView>
 #include <QOpenGLWidget>
 #include <limits>
@@ -44,8 +45,11 @@ TEST_F(PictureTest, newOpenTickSaveOnARealDisplay) {
     answers = {platform::Answer::No};
     choose("mnuFileNew3D");
     EXPECT_EQ(inked(), 0);
+    state.panel.setText(1, "");
     choose("mnuFileOpen");
     EXPECT_EQ(inked(), shown) << "the document shows the same picture again";
+    EXPECT_EQ(find<QLineEdit>("Text1")->text(), "3");
+    EXPECT_EQ(find<QListView>("List1")->model()->rowCount(), 1);
     tick(Qt::Unchecked);
     EXPECT_EQ(inked(), 0);
 }

@@ -1,21 +1,24 @@
 #pragma once
 
 #include <QAction>
+#include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
+#include <algorithm>
 #include <deque>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/app_state.h"
-#include "core/graph_list.h"
+#include "base/files.h"
+#include "core/example_state.h"
 #include "qt/desktop.h"
 #include "qt/main_window.h"
 #include "ui/main_window.h"
@@ -26,10 +29,6 @@ namespace tessaplot::qt {
 class WindowTest : public testing::Test {
  protected:
     void SetUp() override {
-        folder = std::filesystem::path(testing::TempDir()) /
-                 ("qt-" + std::to_string(QCoreApplication::applicationPid()) + '-' +
-                  testing::UnitTest::GetInstance()->current_test_info()->name());
-        std::filesystem::create_directories(folder);
         state.desktop = makeDesktop(window);
         state.desktop.ask = [this](const platform::Message& message) {
             asked.push_back(message.text);
@@ -38,15 +37,13 @@ class WindowTest : public testing::Test {
             answers.pop_front();
             return answer;
         };
-        state.desktop.chooseFile = [this](const platform::FileQuestion& question) {
-            fileQuestions.push_back(question.title);
+        state.desktop.chooseFile = [this](const platform::FileQuestion&) {
             return std::optional(platform::FileChoice{file.string(), fileFilter});
         };
         state.samplesFolder = TESSAPLOT_SAMPLES;
         window.start({});
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
 
     template <class Widget>
     Widget* find(const char* name) {
@@ -63,6 +60,12 @@ class WindowTest : public testing::Test {
             ->widgetForAction(find<QAction>(("Toolbar1_" + std::to_string(index)).c_str()));
     }
 
+    /// Whether a label that shows holds the text.
+    bool shows(const char* text) {
+        const auto holds = [text](const QLabel* label) { return label->isVisible() && label->text().contains(text); };
+        return std::ranges::any_of(window.findChildren<QLabel*>(), holds);
+    }
+
     void tick(Qt::CheckState ticked) {
         QAbstractItemModel* model = find<QListView>("List1")->model();
         model->setData(model->index(0, 0), ticked, Qt::CheckStateRole);
@@ -70,34 +73,19 @@ class WindowTest : public testing::Test {
 
     /// A surface of three by three nodes and a grid model of it, listed but not ticked.
     void addGraph() {
-        for (const int box : {1, 2})
-            state.panel.setText(box, "3");
-        state.panel.layOut();
-        for (int row = 1; row <= 9; ++row) {
-            state.panel.setCell(1, row, std::to_string((row - 1) / 3));
-            state.panel.setCell(2, row, std::to_string((row - 1) % 3));
-            state.panel.setCell(3, row, std::to_string(row % 4));
-        }
+        core::fillPanel(state.panel, data::DataKind::RegularSurface);
         state.TheData.GetData(state.panel, state.scaling, state.gridding, state.desktop);
-        auto graph = std::make_shared<graphs::Cls9>();
-        graph->ID = ++state.LastGraphId;
-        graph->GraphType = graphs::graph_type::gridModel;
-        graph->StepU = graph->StepV = 2;
-        graph->GridColor = 255;
-        graph->GridWidth = 2;
-        state.AllGraphs.Graphs.push_back(graph);
-        state.List1.add(graph, state.scene.SceneMode);
+        core::addGraph(state, graphs::graph_type::gridModel)->GridWidth = 2;
         window.sync();
     }
 
     core::AppState state;
     ui::frmF1 form{state};
     MainWindow window{form};
-    std::filesystem::path folder;
+    TemporaryFolder folder;
     std::filesystem::path file;  ///< What is chosen in file dialogs, with the filter.
     int fileFilter = 1;
     std::vector<std::string> asked;
-    std::vector<std::string> fileQuestions;
     std::deque<platform::Answer> answers;
 };
 
