@@ -39,7 +39,9 @@ TEST(Scene, emptySceneHasEightClearedSamplesAndNoBody) {
     state.ShowLegend = false;
     RebuildScene(state);
     EXPECT_EQ(linesOf(*state.compiled.list900).back(), "glFlush");
-    EXPECT_EQ(state.ShownGraphs.GetBox(state.graphContext()).MinX, 99999999.0 - 0.04);
+    const scene::Cls1 box = state.ShownGraphs.GetBox(state.graphContext());
+    EXPECT_EQ(box.MinX, 99999999.0 - 0.04);
+    EXPECT_EQ(box.MaxY, -99999999.0 + 0.04);
 }
 
 TEST(Scene, everySampleIsTheSameBodyUnderItsOwnJitter) {
