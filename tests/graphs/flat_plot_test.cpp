@@ -178,7 +178,8 @@ TEST(Contour3D, leavesAHoleNoWiderThanTheCellsOfANodeWithoutData) {
         for (int i = 0; i < 7; ++i)
             for (int j = 0; j < 7; ++j)
                 scene.data.Reg3DC(i, j) = 10 * i + j;
-        for (data::Array* array : {&scene.data.Reg3DZ, &scene.data.Reg3DC}) {
+        data::ClsData& d = scene.data;
+        for (data::Array* array : {&d.Reg3DX, &d.Reg3DY, &d.Reg3DZ, &d.Reg3DC}) {
             const double kept = std::exchange((*array)(3, 3), odd);
             Cls9 graph = graphOf(graph_type::contour3D, 6, 6);
             graph.Contour3Levels = 1;
