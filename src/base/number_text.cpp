@@ -1,8 +1,12 @@
 #include "base/number_text.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <system_error>
 
@@ -74,6 +78,47 @@ double valueWithoutBlanks(std::string_view text) {
     return negative ? -value : value;
 }
 
+/// The number that `at[0]` to `at[7]` make if all of them are digits, the first of which lies in the lowest byte. Works
+/// on all of them at once: joins them in pairs, then in fours, then all.
+bool readEightDigits(const char* at, std::uint64_t& number) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, at, sizeof bytes);
+    if (((bytes & (bytes + 0x0606060606060606)) & 0xF0F0F0F0F0F0F0F0) != 0x3030303030303030) return false;
+    bytes = (bytes & 0x0F0F0F0F0F0F0F0F) * (1 + (10 << 8)) >> 8;
+    bytes = (bytes & 0x00FF00FF00FF00FF) * (1 + (100 << 16)) >> 16;
+    number = (bytes & 0x0000FFFF0000FFFF) * (1 + (10000ULL << 32)) >> 32;
+    return true;
+}
+
+/// The value of an unsigned text of digits and at most one point, if its digits make a number below 2^53: that number
+/// and the power of ten below it are exact then, and their quotient is rounded but once (W. D. Clinger, How to read
+/// floating point numbers accurately, PLDI 1990). False for any other text.
+bool readPlainDecimal(std::string_view text, double& value) {
+    constexpr std::size_t longest = 19;
+    constexpr std::array<double, longest> powersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8, 1e9,
+                                                      1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18};
+    if (FLT_EVAL_METHOD != 0 || text.size() > longest) return false;
+    const char* const end = text.data() + text.size();
+    std::uint64_t digits = 0;
+    const auto take = [&digits, end](const char* at) {
+        for (; at != end && isDigit(*at); ++at)
+            digits = 10 * digits + static_cast<std::uint64_t>(*at - '0');
+        return at;
+    };
+    const char* const point = take(text.data());
+    const char* const places = point != end && *point == '.' ? point + 1 : point;
+    const char* at = places;
+    std::uint64_t eight = 0;
+    if (std::endian::native == std::endian::little && end - at >= 8 && readEightDigits(at, eight)) {
+        digits = digits * 100000000 + eight;
+        at += 8;
+    }
+    if (take(at) != end || text.size() == static_cast<std::size_t>(places - point) || digits >= 1ULL << 53U)
+        return false;
+    value = static_cast<double>(digits) / powersOfTen[static_cast<std::size_t>(end - places)];
+    return true;
+}
+
 template <class Float>
 std::string toShortest(Float value) {
     char buffer[64];
@@ -82,11 +127,23 @@ std::string toShortest(Float value) {
 }
 
 constexpr std::string_view fileCharacters = "-1234567890.+*/^()abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
-constexpr std::string_view countCharacters = "-1234567890Ee.";
+constexpr std::array<bool, 256> isCountCharacter = [] {
+    std::array<bool, 256> table{};
+    for (const char c : std::string_view("-1234567890Ee."))
+        table[static_cast<unsigned char>(c)] = true;
+    return table;
+}();
+
+bool takesInCount(char c) {
+    return isCountCharacter[static_cast<unsigned char>(c)];
+}
 
 }  // namespace
 
 double TextValue(std::string_view text) {
+    const bool negative = text.starts_with('-');
+    double value = 0;
+    if (readPlainDecimal(text.substr(negative ? 1 : 0), value)) return negative ? -value : value;
     if (text.find(' ') == std::string_view::npos) return valueWithoutBlanks(text);
     std::string joined(text);
     std::erase(joined, ' ');
@@ -143,7 +200,7 @@ bool CheckNumberText(std::string_view text, std::string& result) {
     for (const char c : text) {
         if (c == ',')
             result += '.';
-        else if (countCharacters.find(c) != std::string_view::npos)
+        else if (takesInCount(c))
             result += c;
         else
             break;
@@ -158,7 +215,7 @@ bool CleanNumberText(std::string_view text, std::string& result) {
         if (c == ' ') continue;
         if (c == ',') {
             result += '.';
-        } else if (countCharacters.find(c) != std::string_view::npos) {
+        } else if (takesInCount(c)) {
             result += c;
         } else {
             stopped = true;
@@ -169,6 +226,14 @@ bool CleanNumberText(std::string_view text, std::string& result) {
     if (stopped) return false;
     result = "0";
     return true;
+}
+
+bool IsCleanNumberText(std::string_view text) {
+    // All of them are looked at, since a way out would be a branch for each.
+    bool isClean = !text.empty();
+    for (const char c : text)
+        isClean &= takesInCount(c);
+    return isClean;
 }
 
 }  // namespace tessaplot::base

@@ -37,4 +37,7 @@ bool CheckNumberText(std::string_view text, std::string& result);
 /// False only if a bad character stands first.
 bool CleanNumberText(std::string_view text, std::string& result);
 
+/// True for a text that `CleanNumberText` gives back as it is.
+bool IsCleanNumberText(std::string_view text);
+
 }  // namespace tessaplot::base

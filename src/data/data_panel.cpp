@@ -14,9 +14,8 @@ namespace {
 
 constexpr int maximumGridSize = 65536;
 
-template <class Texts>
-bool isBlank(const Texts& texts) {
-    return std::ranges::all_of(texts, &std::string::empty);
+bool isBlank(const CellTexts::Row& row) {
+    return std::ranges::all_of(row, &CellTexts::Place::isBlank);
 }
 
 [[noreturn]] void failFull(std::string_view what) {
@@ -44,34 +43,21 @@ void DataPanel::setGridSize(int rows, int columnCount) {
     gridColumns_ = columnCount;
 }
 
-void DataPanel::checkCell(int column, int row) const {
+void DataPanel::failCell(int column, int row) {
     if (column < 1 || column > columns) base::failSubscript("The columns of the data grid", column, 1, columns);
-    if (row < 1 || row > maximumRows) base::failSubscript("The rows of the data grid", row, 1, maximumRows);
-}
-
-const std::string& DataPanel::cell(int column, int row) const {
-    static const std::string blank;
-    checkCell(column, row);
-    const auto at = static_cast<std::size_t>(row) - 1;
-    return at < rows_.size() ? rows_[at][static_cast<std::size_t>(column) - 1] : blank;
-}
-
-void DataPanel::setCell(int column, int row, std::string text) {
-    checkCell(column, row);
-    const auto at = static_cast<std::size_t>(row) - 1;
-    if (at >= rows_.size()) rows_.resize(at + 1);
-    rows_[at][static_cast<std::size_t>(column) - 1] = std::move(text);
+    base::failSubscript("The rows of the data grid", row, 1, maximumRows);
 }
 
 void DataPanel::insertRow(int row) {
     checkCell(1, row);
+    std::vector<CellTexts::Row>& rows = cells_.rows();
     const auto at = static_cast<std::ptrdiff_t>(row) - 1;
-    if (at < static_cast<std::ptrdiff_t>(rows_.size())) {
-        if (rows_.size() == maximumRows) {
-            if (!isBlank(rows_.back())) failFull("last row");
-            rows_.pop_back();
+    if (at < static_cast<std::ptrdiff_t>(rows.size())) {
+        if (rows.size() == maximumRows) {
+            if (!isBlank(rows.back())) failFull("last row");
+            rows.pop_back();
         }
-        rows_.insert(rows_.begin() + at, Row{});
+        rows.insert(rows.begin() + at, CellTexts::Row{});
     }
     if (gridRows_ <= maximumRows) ++gridRows_;
 }
@@ -79,17 +65,20 @@ void DataPanel::insertRow(int row) {
 void DataPanel::deleteRows(int first, int last) {
     checkCell(1, first);
     checkCell(1, last);
-    const auto stored = static_cast<std::ptrdiff_t>(rows_.size());
+    std::vector<CellTexts::Row>& rows = cells_.rows();
+    const auto stored = static_cast<std::ptrdiff_t>(rows.size());
     const std::ptrdiff_t from = std::min<std::ptrdiff_t>(first - 1, stored);
     const std::ptrdiff_t to = std::min<std::ptrdiff_t>(last, stored);
-    if (from < to) rows_.erase(rows_.begin() + from, rows_.begin() + to);
+    if (from < to) rows.erase(rows.begin() + from, rows.begin() + to);
     gridRows_ = std::max(1, gridRows_ - (last - first + 1));
 }
 
 void DataPanel::insertColumn(int column) {
     checkCell(column, 1);
-    if (std::ranges::any_of(rows_, [](const Row& row) { return !row.back().empty(); })) failFull("last column");
-    for (Row& row : rows_)
+    std::vector<CellTexts::Row>& rows = cells_.rows();
+    if (!std::ranges::all_of(rows, [](const CellTexts::Row& row) { return row.back().isBlank(); }))
+        failFull("last column");
+    for (CellTexts::Row& row : rows)
         std::rotate(row.begin() + column - 1, row.end() - 1, row.end());
     if (gridColumns_ <= columns) ++gridColumns_;
 }
@@ -97,15 +86,28 @@ void DataPanel::insertColumn(int column) {
 void DataPanel::deleteColumns(int first, int last) {
     checkCell(first, 1);
     checkCell(last, 1);
-    for (Row& row : rows_) {
-        const auto rest = std::move(row.begin() + last, row.end(), row.begin() + first - 1);
-        std::fill(rest, row.end(), std::string());
+    for (CellTexts::Row& row : cells_.rows()) {
+        const auto rest = std::copy(row.begin() + last, row.end(), row.begin() + first - 1);
+        std::fill(rest, row.end(), CellTexts::Place{});
     }
     gridColumns_ = std::max(1, gridColumns_ - (last - first + 1));
 }
 
 void DataPanel::reserveRows(int rows) {
-    if (rows > 0) rows_.reserve(static_cast<std::size_t>(rows));
+    if (rows > 0) cells_.rows().reserve(static_cast<std::size_t>(rows));
+}
+
+void DataPanel::fillRows(std::string text, std::span<const CellTexts::Place> places, int columnCount) {
+    cells_.take(std::move(text));
+    std::vector<CellTexts::Row>& rows = cells_.rows();
+    const auto rowCount = static_cast<std::size_t>(gridRows_ - 1);
+    const auto width = static_cast<std::size_t>(columnCount);
+    if (rows.size() < rowCount) rows.resize(rowCount);
+    for (std::size_t row = 0; row < rowCount; ++row) {
+        const auto given = places.first(std::min(width, places.size()));
+        std::fill_n(std::ranges::copy(given, rows[row].begin()).out, width - given.size(), CellTexts::Place{});
+        places = places.subspan(given.size());
+    }
 }
 
 bool DataPanel::GetCellText(int row, int column, std::string& text) const {
@@ -116,7 +118,7 @@ bool DataPanel::GetCellText(int row, int column, std::string& text) const {
 
 bool DataPanel::SetCellText(int row, int column, std::string_view text) {
     if (row <= 0 || column <= 0) return false;
-    setCell(column, row, std::string(text));
+    setCell(column, row, text);
     return true;
 }
 
@@ -179,16 +181,11 @@ void DataPanel::layOut() {
 }
 
 void DataPanel::clearCells() {
-    rows_ = {};
+    cells_ = {};
 }
 
 std::size_t DataPanel::bytes() const {
-    const std::size_t inPlace = std::string().capacity();
-    std::size_t sum = rows_.capacity() * sizeof(Row);
-    for (const Row& row : rows_)
-        for (const std::string& text : row)
-            if (text.capacity() > inPlace) sum += text.capacity() + 1;
-    return sum;
+    return cells_.bytes();
 }
 
 }  // namespace tessaplot::data

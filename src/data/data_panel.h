@@ -1,10 +1,13 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "data/cell_texts.h"
 #include "data/data_kind.h"
 
 namespace tessaplot::data {
@@ -12,8 +15,8 @@ namespace tessaplot::data {
 /// The data panel without its widgets: the kind, ten text boxes and the text grid. It is the master copy of the data.
 class DataPanel {
  public:
-    static constexpr int maximumRows = 20000;  ///< Data rows of the grid store.
-    static constexpr int columns = 4;          ///< Data columns, numbered from 1; column 0 is the index.
+    static constexpr int maximumRows = 20000;           ///< Data rows of the grid store.
+    static constexpr int columns = CellTexts::columns;  ///< Data columns, numbered from 1; column 0 is the index.
 
     DataKind kind() const { return kind_; }
     /// Changes labels and headers; all text stays in place.
@@ -29,9 +32,16 @@ class DataPanel {
     /// Throws a Failure that names the limit for sizes outside 1 to 65536.
     void setGridSize(int rows, int columnCount);
 
-    /// The stored text; row and column from 1. Rows past the store throw SubscriptOutOfRange.
-    const std::string& cell(int column, int row) const;
-    void setCell(int column, int row, std::string text);
+    /// The stored text, valid until a cell changes; row and column from 1. Rows past the store throw
+    /// SubscriptOutOfRange.
+    std::string_view cell(int column, int row) const {
+        checkCell(column, row);
+        return cells_.at(static_cast<std::size_t>(row) - 1, static_cast<std::size_t>(column) - 1);
+    }
+    void setCell(int column, int row, std::string_view text) {
+        checkCell(column, row);
+        cells_.set(static_cast<std::size_t>(row) - 1, static_cast<std::size_t>(column) - 1, text);
+    }
 
     /// Puts an empty row or column before the given one, counted from 1; texts move on and the grid grows as far as the
     /// store goes. Throws BadInput, with nothing changed, if a text would be pushed out of the store.
@@ -43,6 +53,10 @@ class DataPanel {
 
     /// Makes room for that many rows at once.
     void reserveRows(int rows);
+
+    /// Fills the first columns of all rows of the grid, row by row, with the given places of `text`. Where these end,
+    /// the cells are blank.
+    void fillRows(std::string text, std::span<const CellTexts::Place> places, int columnCount);
 
     /// Answers the virtual grid: false for the header row and the index column, which the store does not serve.
     bool GetCellText(int row, int column, std::string& text) const;
@@ -72,15 +86,18 @@ class DataPanel {
 
  private:
     enum class IndexForm { None, Number, Pair, Triple };
-    using Row = std::array<std::string, columns>;
 
-    void checkCell(int column, int row) const;
+    static void checkCell(int column, int row) {
+        if (column < 1 || column > columns || row < 1 || row > maximumRows) [[unlikely]]
+            failCell(column, row);
+    }
+    [[noreturn]] static void failCell(int column, int row);
     bool checkCounts(std::string& message);
     bool cleanCells(std::string& message);
 
     DataKind kind_ = DataKind::RegularSurface;
     std::array<std::string, 10> boxes_;
-    std::vector<Row> rows_;  ///< Row n of the grid at n - 1, as far as any was written.
+    CellTexts cells_;  ///< Row n of the grid at n - 1, as far as any was written.
     int gridRows_ = 101;
     int gridColumns_ = 5;
     IndexForm indexForm_ = IndexForm::None;

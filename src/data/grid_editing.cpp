@@ -89,7 +89,7 @@ void pasteCells(DataPanel& panel, int row, int column, std::string_view text) {
     for (const std::string_view line : lines) {
         int at = column;
         for (const std::string_view cell : cellsOf(line))
-            panel.setCell(at++, row, std::string(cell));
+            panel.setCell(at++, row, cell);
         ++row;
     }
 }

@@ -76,11 +76,12 @@ bool DataPanel::cleanCells(std::string& message) {
     std::string cleaned;
     for (int row = 1; row < gridRows_; ++row) {
         for (int column = 1; column < gridColumns_; ++column) {
+            if (base::IsCleanNumberText(cell(column, row))) continue;
             if (!base::CleanNumberText(cell(column, row), cleaned)) {
                 message = illegalData;
                 return false;
             }
-            if (cleaned != cell(column, row)) setCell(column, row, cleaned);
+            setCell(column, row, cleaned);
         }
     }
     return true;

@@ -1,7 +1,11 @@
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cctype>
+#include <cstdint>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/failure.h"
@@ -47,39 +51,42 @@ const TextTag* findTag(std::string_view token) {
     return found == tags.end() ? nullptr : found;
 }
 
-// A function object, so that searches with it are compiled in place.
-constexpr auto isSeparator = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+constexpr std::array<bool, 256> isSeparator = [] {
+    std::array<bool, 256> table{};
+    for (const char c : {' ', '\t', '\r', '\n'})
+        table[static_cast<unsigned char>(c)] = true;
+    return table;
+}();
 
-/// Walks over a data text token by token: every blank, tab and line end closes one, also an empty one.
-class TextTokens {
- public:
-    explicit TextTokens(std::string_view text) : rest_(text) {}
+/// The separators among up to 64 characters, a bit each: found without a branch, as none could be foreseen.
+std::uint64_t separatorsIn(std::string_view text) {
+    std::uint64_t found = 0;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        found |= static_cast<std::uint64_t>(isSeparator[static_cast<unsigned char>(text[i])]) << i;
+    return found;
+}
 
-    /// The next token, empty past the end of the text.
-    std::string_view next() {
-        if (++taken_ > textTokenSlots)
-            throw base::Failure(base::FailureCode::SubscriptOutOfRange,
-                                "The text has more than " + std::to_string(textTokenSlots) + " tokens.");
-        const auto* const end = std::find_if(rest_.begin(), rest_.end(), isSeparator);
-        const std::string_view token(rest_.begin(), end);
-        rest_.remove_prefix(end == rest_.end() ? rest_.size() : separatorEnd(token.size()));
-        return token;
+/// Where the tokens of a data text lie: every blank, tab and line end closes one, also an empty one.
+std::vector<CellTexts::Place> tokensOf(std::string_view text) {
+    constexpr std::size_t blockLength = 64;
+    std::vector<CellTexts::Place> tokens;
+    tokens.reserve(std::min<std::size_t>(text.size() + 1, textTokenSlots + blockLength));
+    std::size_t start = 0;
+    const auto closeAt = [&](std::size_t end) {
+        tokens.push_back({static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(end - start)});
+        start = text.substr(end).starts_with("\r\n") ? end + 2 : end + 1;
+    };
+    for (std::size_t block = 0; block < text.size() && tokens.size() <= textTokenSlots; block += blockLength) {
+        for (std::uint64_t found = separatorsIn(text.substr(block, blockLength)); found != 0; found &= found - 1) {
+            const std::size_t end = block + static_cast<std::size_t>(std::countr_zero(found));
+            if (end >= start) closeAt(end);
+        }
     }
-
-    bool atEnd() const { return rest_.empty(); }
-
- private:
-    std::size_t separatorEnd(std::size_t at) const { return rest_.substr(at).starts_with("\r\n") ? at + 2 : at + 1; }
-
-    std::string_view rest_;
-    int taken_ = 0;
-};
-
-/// Counts the tokens that follow, so that a text too long for the table is refused before anything changes.
-void requireTokensFit(std::string_view text) {
-    if (std::count_if(text.begin(), text.end(), isSeparator) < textTokenSlots) return;
-    for (TextTokens tokens(text); !tokens.atEnd();)
-        tokens.next();
+    if (start < text.size()) closeAt(text.size());
+    if (tokens.size() > textTokenSlots)
+        throw base::Failure(base::FailureCode::SubscriptOutOfRange,
+                            "The text has more than " + std::to_string(textTokenSlots) + " tokens.");
+    return tokens;
 }
 
 void shape(DataPanel& panel, DataKind kind, const std::vector<std::string>& sizes) {
@@ -91,32 +98,33 @@ void shape(DataPanel& panel, DataKind kind, const std::vector<std::string>& size
 }
 
 /// An exported text is one quoted line; its last quote would stick to the last number.
-std::string_view withoutQuotes(std::string_view text) {
-    if (!text.starts_with('"')) return text;
-    text.remove_prefix(1);
+void dropQuotes(std::string& text) {
+    if (!text.starts_with('"')) return;
     const std::size_t last = text.find_last_not_of(" \r\n");
-    return last != std::string_view::npos && text[last] == '"' ? text.substr(0, last) : text;
+    if (last > 0 && text[last] == '"') text.resize(last);
+    text.erase(0, 1);
 }
 
 }  // namespace
 
-bool importText(DataPanel& panel, std::string_view text) {
-    text = withoutQuotes(text);
-    requireTokensFit(text);
-    TextTokens tokens(text);
-    const TextTag* tag = findTag(tokens.next());
+bool importText(DataPanel& panel, std::string text) {
+    dropQuotes(text);
+    const std::vector<CellTexts::Place> tokens = tokensOf(text);
+    std::size_t taken = 0;
+    const auto next = [&] {
+        const CellTexts::Place place = taken < tokens.size() ? tokens[taken++] : CellTexts::Place{};
+        return std::string_view(text).substr(place.start, place.length);
+    };
+    const TextTag* tag = findTag(next());
     if (tag == nullptr) return false;
     std::vector<std::string> sizes;
     for (std::size_t i = 0; i < sizeBoxesOf(tag->kind).size(); ++i)
-        sizes.emplace_back(tokens.next());
+        sizes.emplace_back(next());
 
     DataPanel trial;
     shape(trial, tag->kind, sizes);
     shape(panel, tag->kind, sizes);
-    panel.reserveRows(panel.gridRows() - 1);
-    for (int row = 1; row < panel.gridRows(); ++row)
-        for (int column = 1; column <= tag->rowTokens; ++column)
-            panel.setCell(column, row, std::string(tokens.next()));
+    panel.fillRows(std::move(text), std::span(tokens).subspan(taken), tag->rowTokens);
     return true;
 }
 

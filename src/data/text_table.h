@@ -18,7 +18,7 @@ inline constexpr int textTokenSlots = 500000;
 /// Reads a data text into the panel: a tag such as "R3" or "ICS" (its end counts, in either case), the size tokens, the
 /// values row by row. Tokens end at each single blank, tab or line end. An unknown tag leaves the panel unchanged and
 /// returns false. Throws SubscriptOutOfRange, with the panel unchanged, for more tokens or rows than the tables hold.
-bool importText(DataPanel& panel, std::string_view text);
+bool importText(DataPanel& panel, std::string text);
 
 /// The panel's data as a data text: tag, sizes, cells; the colour column of surfaces is left out. Each token is
 /// followed by one blank. The panel should have passed `CheckData`.

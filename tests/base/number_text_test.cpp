@@ -53,6 +53,23 @@ TEST(NumberText, generalTextHasFifteenDigitsAndReadsBack) {
     }
 }
 
+TEST(NumberText, digitsAreReadAsTheLibraryReadsThem) {
+    std::mt19937_64 random(5);
+    for (int i = 0; i < 200000; ++i) {
+        std::string text = random() % 2 == 0 ? "-" : "";
+        for (std::size_t length = 1 + random() % 20; length > 0; --length)
+            text += static_cast<char>('0' + random() % 10);
+        if (random() % 8 != 0) text.insert(text.size() - random() % text.size(), ".");
+        if (random() % 8 == 0) text[random() % text.size()] = "/:; ,-.\xB5"[random() % 8];
+        std::string blankless = text;
+        std::erase(blankless, ' ');
+        char* end = nullptr;
+        const double expected = std::strtod(blankless.c_str(), &end);
+        ASSERT_EQ(TextValue(text), expected) << text;
+        ASSERT_TRUE(end == blankless.c_str() || std::signbit(TextValue(text)) == std::signbit(expected)) << text;
+    }
+}
+
 TEST(NumberText, textsAreCleanedForFilesCountsAndValues) {
     for (const auto& [text, kept] :
          {std::pair("1,5", "1.5"), {" 1 2 ", "12"}, {"sin(x)^2", "sin(x)^2"}, {"5%", ""}, {"1\t2", ""}})
@@ -66,6 +83,8 @@ TEST(NumberText, textsAreCleanedForFilesCountsAndValues) {
     EXPECT_TRUE(CleanNumberText("  ", result));
     EXPECT_EQ(result, "0");
     EXPECT_FALSE(CleanNumberText("a1", result) || CleanNumberText(" +1", result));
+    for (const std::string text : {"", "1.5e-3", "1,5", " 1", "1a", "a1", "\xB5", "-"})
+        EXPECT_EQ(IsCleanNumberText(text), CleanNumberText(text, result) && result == text) << text;
 }
 
 }  // namespace

@@ -1,5 +1,11 @@
 #include "data/data_panel.h"
 
+#include <algorithm>
+#include <array>
+#include <random>
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
@@ -60,6 +66,59 @@ TEST(DataPanel, refusesLayoutsBeyondTheStoreAndKeepsItsShape) {
     panel.setText(2, "-4");
     panel.layOut();
     EXPECT_EQ(panel.gridRows(), 1) << "two negative counts are no data";
+}
+
+/// The texts of a panel, each a string of its own.
+using PlainTable = std::vector<std::array<std::string, DataPanel::columns>>;
+
+void requireSameTexts(const DataPanel& panel, const PlainTable& plain) {
+    for (std::size_t row = 0; row < plain.size(); ++row)
+        for (int column = 1; column <= DataPanel::columns; ++column)
+            ASSERT_EQ(panel.cell(column, static_cast<int>(row) + 1), plain[row][static_cast<std::size_t>(column) - 1]);
+}
+
+TEST(DataPanel, keepsEachTextWhileOthersComeAndGo) {
+    constexpr int rows = 50;
+    std::mt19937 random(3);
+    const auto anyOf = [&random](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
+    DataPanel panel;
+    PlainTable plain(rows);
+    for (int step = 0; step < 20000; ++step) {
+        const int row = anyOf(rows);
+        const int column = anyOf(DataPanel::columns);
+        std::string& text = plain[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+        switch (anyOf(100)) {
+            case 0:
+                panel.insertRow(row + 1);
+                plain.insert(plain.begin() + row, PlainTable::value_type{});
+                break;
+            case 1:
+                panel.deleteRows(row + 1, row + 1);
+                plain.erase(plain.begin() + row);
+                plain.resize(std::max<std::size_t>(plain.size(), rows));
+                break;
+            case 2:
+                panel.deleteColumns(column + 1, column + 1);
+                for (auto& cells : plain) {
+                    std::rotate(cells.begin() + column, cells.begin() + column + 1, cells.end());
+                    cells.back().clear();
+                }
+                break;
+            case 3:
+                panel = DataPanel(panel);
+                requireSameTexts(panel, plain);
+                break;
+            case 4:
+                text += panel.cell(1, 1);
+                panel.setCell(column + 1, row + 1, text);
+                break;
+            default:
+                text = std::string(static_cast<std::size_t>(anyOf(200)), static_cast<char>('a' + anyOf(26)));
+                panel.setCell(column + 1, row + 1, text);
+        }
+    }
+    requireSameTexts(panel, plain);
+    EXPECT_LT(panel.bytes(), 400000U) << "what is replaced goes at last";
 }
 
 TEST(DataPanel, validatesBoxesInOrderAndSaysWhichOneIsWrong) {

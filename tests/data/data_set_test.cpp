@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,9 +16,9 @@ namespace {
 using testing::HasSubstr;
 
 /// A panel with what a data text tells: tag, sizes, rows.
-DataPanel panelOf(std::string_view text) {
+DataPanel panelOf(std::string text) {
     DataPanel panel;
-    EXPECT_TRUE(importText(panel, text));
+    EXPECT_TRUE(importText(panel, std::move(text)));
     return panel;
 }
 

@@ -12,7 +12,7 @@ namespace {
 bool imports(data::DataPanel& panel, std::string_view bytes) {
     std::string message;
     try {
-        return data::importText(panel, bytes) && panel.CheckData(message);
+        return data::importText(panel, std::string(bytes)) && panel.CheckData(message);
     } catch (const base::Failure&) {
         return false;
     }
