@@ -6,7 +6,9 @@
 
 namespace tessaplot::expr {
 
-CompiledFormula::CompiledFormula(std::string_view postfix) : program_(FormulaCompiler().compile(postfix)) {}
+CompiledFormula::CompiledFormula(std::string_view postfix) : program_(FormulaCompiler().compile(postfix)) {
+    linkProgram(program_);
+}
 
 void CompiledFormula::throwUnlessEmpty() const {
     switch (program_.ending) {

@@ -32,10 +32,12 @@ class CompiledFormula {
     /// Throws EvaluatorError for a bad token and for a missing operand, Failure (Overflow) for a number beyond the
     /// range of a 64-bit float, each if no failure comes before it in the order of the text.
     Outcome evaluate(bool degrees, RandomSequence& random, double& result) {
-        const Outcome outcome = runProgram(program_, degrees, random, result);
-        if (outcome == Outcome::Empty) [[unlikely]]
+        const RunResult ended = runProgram(program_, degrees, random);
+        if (ended.outcome == Outcome::Value) [[likely]]
+            result = ended.value;
+        else if (ended.outcome == Outcome::Empty)
             throwUnlessEmpty();
-        return outcome;
+        return ended.outcome;
     }
 
  private:

@@ -180,8 +180,8 @@ Instruction FormulaCompiler::instructionFor(const Step& step, Cell accumulator) 
     const bool isLeft = left == accumulator;
     if (operation == Operation::Rnd) return {Code::Random, 0, 0, result};
     if (operation == Operation::Power && isConstant_[right] && program_.cells[right] == 2) {
-        if (isLeft) return {Code::SquareAC, right, 0, result};
-        return {Code::SquareCC, left, right, result};
+        if (isLeft) return {Code::SquareA, 0, 0, result};
+        return {Code::SquareC, left, 0, result};
     }
     if (!isBinary(operation)) {
         if (isLeft) return {codeOf(operation, 0), 0, 0, result};

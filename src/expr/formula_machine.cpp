@@ -6,10 +6,12 @@
 
 namespace tessaplot::expr {
 
+namespace {
+
 // Each instruction ends with a jump of its own, from which the processor learns what follows what; a loop around a
 // switch has but one, and takes a third longer for a usual formula. Hence the table of labels, which GCC and Clang both
-// know.
-Outcome runProgram(Program& program, bool degrees, RandomSequence& random, double& value) {
+// know. Instructions hold their labels, which only the function itself can tell: it does so for want of a program.
+RunResult run(Program* program, bool degrees, RandomSequence* random, const void* const** targets) {
     // A label is no expression, so that the usual parentheses are impossible.
     // NOLINTBEGIN(bugprone-macro-parentheses)
     // clang-format off
@@ -20,8 +22,8 @@ Outcome runProgram(Program& program, bool degrees, RandomSequence& random, doubl
     static const void* const labels[] = {
         TESSAPLOT_EXPR_BINARIES(TESSAPLOT_EXPR_BINARY)
         TESSAPLOT_EXPR_UNARIES(TESSAPLOT_EXPR_UNARY)
-        TESSAPLOT_EXPR_LABELS(SquareAC)
-        TESSAPLOT_EXPR_LABELS(SquareCC)
+        TESSAPLOT_EXPR_LABELS(SquareA)
+        TESSAPLOT_EXPR_LABELS(SquareC)
         TESSAPLOT_EXPR_LABELS(Random)
         &&Load, &&Finish, &&Stop,
     };
@@ -31,15 +33,19 @@ Outcome runProgram(Program& program, bool degrees, RandomSequence& random, doubl
     // clang-format on
     static_assert(std::size(labels) == static_cast<std::size_t>(Code::Stop) + 1);
 
-    const Instruction* at = program.instructions.data();
-    double* const cells = program.cells.data();
+    if (program == nullptr) {
+        *targets = labels;
+        return {};
+    }
+    const Instruction* at = program->instructions.data();
+    double* const cells = program->cells.data();
     double accumulator = 0;
 
-#define TESSAPLOT_EXPR_GO() goto* labels[static_cast<std::uint32_t>(at->code)]
+#define TESSAPLOT_EXPR_GO() goto * at->target
 #define TESSAPLOT_EXPR_COMPUTE(...)                                                  \
     double result = 0;                                                               \
     if (const Outcome outcome = __VA_ARGS__; outcome != Outcome::Value) [[unlikely]] \
-        return outcome;                                                              \
+        return {0, outcome};                                                         \
     accumulator = result
 #define TESSAPLOT_EXPR_DO(form, ...)         \
     form : {                                 \
@@ -65,18 +71,30 @@ Outcome runProgram(Program& program, bool degrees, RandomSequence& random, doubl
     TESSAPLOT_EXPR_GO();
     TESSAPLOT_EXPR_BINARIES(TESSAPLOT_EXPR_BINARY)
     TESSAPLOT_EXPR_UNARIES(TESSAPLOT_EXPR_UNARY)
-    TESSAPLOT_EXPR_DO(SquareAC, square(accumulator, cells[at->first], result))
-    TESSAPLOT_EXPR_DO(SquareCC, square(cells[at->first], cells[at->second], result))
-    TESSAPLOT_EXPR_DO(Random, yield(random.next(), result))
+    TESSAPLOT_EXPR_DO(SquareA, square(accumulator, result))
+    TESSAPLOT_EXPR_DO(SquareC, square(cells[at->first], result))
+    TESSAPLOT_EXPR_DO(Random, yield(random->next(), result))
 Load:
     accumulator = cells[at->first];
     ++at;
     TESSAPLOT_EXPR_GO();
 Finish:
-    value = accumulator;
-    return Outcome::Value;
+    return {accumulator, Outcome::Value};
 Stop:
-    return Outcome::Empty;
+    return {};
+}
+
+}  // namespace
+
+void linkProgram(Program& program) {
+    const void* const* targets = nullptr;
+    run(nullptr, false, nullptr, &targets);
+    for (Instruction& instruction : program.instructions)
+        instruction.target = targets[static_cast<std::size_t>(instruction.code)];
+}
+
+RunResult runProgram(Program& program, bool degrees, RandomSequence& random) {
+    return run(&program, degrees, &random, nullptr);
 }
 
 }  // namespace tessaplot::expr

@@ -34,15 +34,19 @@ Outcome power(double base, double exponent, double& value);
 /// But its error is bounded (0.511 units in the last place plus 0.00003 for each binary order of the result, Arm
 /// optimized routines, math/pow.c, which also is the power of glibc since 2.28 and of musl). So where the exact square
 /// lies within 0.485 units of the product, no result but the product is possible; the rest, 3 in 100, ask the library.
-inline Outcome square(double base, double exponent, double& value) {
+inline Outcome square(double base, double& value) {
     constexpr std::uint64_t upperBits = 0xFFFFFFFFF8000000;
     const double product = base * base;
     const double upper = std::bit_cast<double>(std::bit_cast<std::uint64_t>(base) & upperBits);
     const double lower = base - upper;
     const double missing = (upper * upper - product) + (base + upper) * lower;
     const bool decided = product + 1.03 * missing == product && product > 0x1p-63 && product < 0x1p63;
-    if (!decided) [[unlikely]]
-        return power(base, exponent, value);
+    if (!decided) [[unlikely]] {
+        double exact = 0;  // Not `value`, whose address would keep it in memory on the usual way too.
+        const Outcome outcome = power(base, 2, exact);
+        value = exact;
+        return outcome;
+    }
     return yield(product, value);
 }
 

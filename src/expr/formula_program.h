@@ -17,8 +17,8 @@ enum class Code : std::uint32_t {
     TESSAPLOT_EXPR_CODES(name##AC) TESSAPLOT_EXPR_CODES(name##CA) TESSAPLOT_EXPR_CODES(name##CC)
 #define TESSAPLOT_EXPR_UNARY(name, text) TESSAPLOT_EXPR_CODES(name##A) TESSAPLOT_EXPR_CODES(name##C)
     TESSAPLOT_EXPR_BINARIES(TESSAPLOT_EXPR_BINARY) TESSAPLOT_EXPR_UNARIES(TESSAPLOT_EXPR_UNARY)
-    /// A power whose exponent, the second operand, is exactly 2.
-    TESSAPLOT_EXPR_CODES(SquareAC) TESSAPLOT_EXPR_CODES(SquareCC) TESSAPLOT_EXPR_CODES(Random)
+    /// A power whose exponent is exactly 2.
+    TESSAPLOT_EXPR_CODES(SquareA) TESSAPLOT_EXPR_CODES(SquareC) TESSAPLOT_EXPR_CODES(Random)
 #undef TESSAPLOT_EXPR_UNARY
 #undef TESSAPLOT_EXPR_BINARY
 #undef TESSAPLOT_EXPR_CODES
@@ -36,6 +36,8 @@ struct Instruction {
     std::uint32_t first = 0;
     std::uint32_t second = 0;
     std::uint32_t result = 0;
+    /// Where the machine carries out the code; `linkProgram` sets it.
+    const void* target = nullptr;
 };
 
 /// What follows when every instruction of a program has been carried out.
