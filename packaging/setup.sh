@@ -1,8 +1,8 @@
 # Sourced by ./run and ./test: makes sure that the Debian packages that the project builds with are there.
 
 build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6opengl6-dev qt6-svg-dev
-  libgl-dev libegl-dev libopengl-dev libglu1-mesa-dev libgl1-mesa-dri libegl1 libfreetype-dev libfontconfig-dev libcli11-dev
-  fonts-liberation cmark-gfm"
+  libgl-dev libegl-dev libopengl-dev libglu1-mesa-dev libgl1-mesa-dri libegl1 libfreetype-dev libfontconfig-dev libpng-dev
+  libcli11-dev fonts-liberation cmark-gfm"
 test_packages="libgtest-dev libgmock-dev xvfb xauth openbox"
 bench_packages="libbenchmark-dev"
 

@@ -11,8 +11,10 @@ foreach(file bin/tessaplot share/applications/tessaplot.desktop share/mime/packa
   endif()
 endforeach()
 
-execute_process(COMMAND ${TREE}/bin/tessaplot-cli render ${TREE}/share/tessaplot/samples/sphere.tsp ${TREE}/sphere.png
-                        --size 80x60 COMMAND_ERROR_IS_FATAL ANY)
-if(NOT EXISTS ${TREE}/sphere.png)
-  message(FATAL_ERROR "the installed program draws no picture")
-endif()
+foreach(picture sphere.png sphere.jpg)
+  execute_process(COMMAND ${TREE}/bin/tessaplot-cli render ${TREE}/share/tessaplot/samples/sphere.tsp ${TREE}/${picture}
+                          --size 80x60 COMMAND_ERROR_IS_FATAL ANY)
+  if(NOT EXISTS ${TREE}/${picture})
+    message(FATAL_ERROR "the installed program draws no ${picture}")
+  endif()
+endforeach()
