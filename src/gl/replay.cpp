@@ -175,6 +175,7 @@ const ListBuffers* Replay::Drawing::buffersOf(const DisplayListPtr& list) {
     const auto known = compiled_.find(list.get());
     if (known != compiled_.end()) return known->second.buffers.get();
     if (!hasGeometry(*list)) return nullptr;
+    glFlush();  // What was drawn so far is worked on while the list is compiled.
     auto buffers = std::make_unique<ListBuffers>(compileList(*list, &glyphs_));
     ++counts_.compiled;
     Compiled& entry = compiled_[list.get()];
