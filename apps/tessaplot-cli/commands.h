@@ -27,9 +27,9 @@ struct TraceOptions {
     bool legend = false;
 };
 
-/// Draws each document into a picture of its own. One that cannot be drawn is told, and the others are drawn all the
-/// same; false if there was one.
-bool render(const RenderOptions& options);
+/// Draws each document into a picture of its own, and ends the process. One that cannot be drawn is told, and the
+/// others are drawn all the same; the status is 1 then. Throws base::Failure without OpenGL.
+[[noreturn]] void render(const RenderOptions& options);
 
 /// Each command prints its result on standard output and throws base::Failure if it cannot be done.
 void trace(const TraceOptions& options);

@@ -61,7 +61,7 @@ void addRender(CLI::App& app, cli::RenderOptions& options) {
     command->add_flag("--quick", options.quick, "Two samples a pixel instead of eight");
     command->callback([&options] {
         takePicture(options);
-        if (!cli::render(options)) throw CLI::RuntimeError(1);
+        cli::render(options);
     });
 }
 
