@@ -1,7 +1,11 @@
 #include <cstdlib>
 #include <iostream>
 #include <string>
+#include <utility>
 
+#include "core/document.h"
+#include "gl/font_file.h"
+#include "gl/large_pages.h"
 #include "qt/application.h"
 #include "qt/opengl_format.h"
 #include "qt/program.h"
@@ -52,8 +56,12 @@ int main(int argc, char** argv) {
         std::cerr << "tessaplot: there is no display; tessaplot-cli works without one.\n";
         return 1;
     }
+    // Most of the start goes into the toolkit and the driver: what needs neither is done meanwhile.
+    tessaplot::gl::preferLargePages();
+    auto ahead = tessaplot::core::readAhead(document);
+    const auto fonts = tessaplot::gl::prepareFonts();
     tessaplot::qt::requestOpenGl();
     int nameOnly = 1;  // The path may look like an option of Qt.
     tessaplot::qt::Application application(nameOnly, argv);
-    return tessaplot::qt::runProgram(application, document);
+    return tessaplot::qt::runProgram(application, document, std::move(ahead));
 }

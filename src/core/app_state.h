@@ -34,6 +34,8 @@ struct CompiledScene {
     std::string misfits;
 };
 
+struct DocumentAhead;
+
 /// The one state of the program: made once at the start, owns everything, passed by reference.
 struct AppState {
     data::Scaling scaling;
@@ -70,6 +72,8 @@ struct AppState {
     std::shared_ptr<graphs::TextureCache> textures = std::make_shared<graphs::TextureCache>();
     std::filesystem::path samplesFolder;   ///< Where the documents of the Demo menu lie.
     std::filesystem::path documentFolder;  ///< Of the document opened last: its textures may lie there.
+    /// What `readAhead` gave; `LoadDocument` takes it for that path.
+    std::shared_ptr<DocumentAhead> documentAhead;
 
     graphs::GraphContext graphContext() const {
         return {TheData, panel.kind(), scaling, scene, TriangleList, &desktop, textures.get(), documentFolder};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -61,6 +62,10 @@ std::string documentText(const DocumentParts& parts);
 
 /// The record of one graph with its last blank, as it stands in a document and in the copy buffer.
 std::string graphRecord(const graphs::Cls9& graph, const data::GriddingChoice& gridding);
+
+/// Begins to read a document on a thread of its own, while the program starts; nothing for an empty path. What fails
+/// there is thrown by `LoadDocument`.
+std::shared_ptr<DocumentAhead> readAhead(const std::filesystem::path& path);
 
 /// What became of a document that was asked for.
 enum class LoadResult { Loaded, NoPath, EmptyFile, UnknownTag };

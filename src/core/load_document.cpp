@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <future>
 #include <memory>
 #include <string>
 #include <utility>
@@ -85,16 +86,39 @@ void showAllGraphs(AppState& state) {
     }
 }
 
+/// A document with whether its file was empty.
+struct ReadDocument {
+    bool empty = false;
+    std::optional<Document> document;
+};
+
+ReadDocument readWhole(const std::filesystem::path& path) {
+    const std::string text = readDocumentFile(path);
+    if (text.empty()) return {true, std::nullopt};
+    return {false, readDocument(text)};
+}
+
 }  // namespace
+
+/// A document that is being read.
+struct DocumentAhead {
+    std::filesystem::path path;
+    std::future<ReadDocument> reading;
+};
+
+std::shared_ptr<DocumentAhead> readAhead(const std::filesystem::path& path) {
+    if (path.empty()) return nullptr;
+    auto ahead = std::make_shared<DocumentAhead>();
+    ahead->path = path;
+    ahead->reading = std::async(std::launch::async, readWhole, path);
+    return ahead;
+}
 
 LoadResult LoadDocument(AppState& state, const std::filesystem::path& path) {
     if (path.empty()) return LoadResult::NoPath;
-    std::optional<Document> document;
-    {
-        const std::string text = readDocumentFile(path);
-        if (text.empty()) return LoadResult::EmptyFile;
-        document = readDocument(text);
-    }
+    const auto ahead = std::exchange(state.documentAhead, nullptr);
+    auto [empty, document] = ahead && ahead->path == path ? ahead->reading.get() : readWhole(path);
+    if (empty) return LoadResult::EmptyFile;
     DeleteAllGraphs(state);
     state.TriangleList.clear();
     state.documentFolder = path.parent_path();

@@ -18,6 +18,10 @@ void failFont(const std::string& reason) {
     throw base::Failure(base::FailureCode::FileUnreadable, "Unable to create font: " + reason);
 }
 
+std::future<void> prepareFonts() {
+    return std::async(std::launch::async, [] { FcInit(); });
+}
+
 FontFile findFont(const std::string& family) {
     FcConfig* config = FcConfigGetCurrent();
     if (config == nullptr) failFont("Fontconfig is not set up.");

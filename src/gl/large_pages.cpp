@@ -34,7 +34,6 @@ void preferLargePages() {
     mallopt(M_MMAP_THRESHOLD, largestOnHeap);
     mallopt(M_TRIM_THRESHOLD, 2 * heapStep);
     mallopt(M_TOP_PAD, heapStep);
-    mallopt(M_ARENA_MAX, 1);
     growHeap();
     const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0));
     const std::uintptr_t begin = (end - heapStep + largePage - 1) / largePage * largePage;

@@ -2,6 +2,7 @@
 
 #include <QScopeGuard>
 #include <exception>
+#include <utility>
 
 #include "core/app_state.h"
 #include "qt/application.h"
@@ -28,9 +29,11 @@ bool open(MainWindow& window, const core::AppState& state, const std::filesystem
 
 }  // namespace
 
-int runProgram(Application& application, const std::filesystem::path& document) {
+int runProgram(Application& application, const std::filesystem::path& document,
+               std::shared_ptr<core::DocumentAhead> ahead) {
     const Installation installation = findInstallation();
     core::AppState state;
+    state.documentAhead = std::move(ahead);
     state.samplesFolder = installation.samples;
     ui::frmF1 form(state);
     form.help = installation.help;

@@ -78,6 +78,21 @@ TEST_F(LoadDocumentTest, aDocumentThatCannotBeReadLeavesTheOpenOne) {
     EXPECT_TRUE(state.AllGraphs.empty());
 }
 
+TEST_F(LoadDocumentTest, takesTheDocumentThatWasReadAheadForItsPathAlone) {
+    const fs::path path = example();
+    state.documentAhead = readAhead(path);
+    EXPECT_EQ(LoadDocument(state, path), LoadResult::Loaded);
+    EXPECT_EQ(state.List1.entries.size(), 2U);
+    EXPECT_EQ(state.documentAhead, nullptr);
+
+    state.documentAhead = readAhead("/nowhere/at all.tsp");
+    EXPECT_EQ(LoadDocument(state, path), LoadResult::Loaded) << "what fails for another path is nobody's concern";
+    state.documentAhead = readAhead("/nowhere/at all.tsp");
+    EXPECT_THROW(LoadDocument(state, "/nowhere/at all.tsp"), base::Failure);
+    EXPECT_EQ(state.List1.entries.size(), 2U);
+    EXPECT_EQ(readAhead(""), nullptr);
+}
+
 TEST_F(LoadDocumentTest, dataThatCannotBeScaledLeaveTheGraphsListedAndUnticked) {
     showGridModel(state);
     AppState other;
