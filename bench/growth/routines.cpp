@@ -15,6 +15,7 @@
 #include "geometry/iso_surface.h"
 #include "growth/routine.h"
 #include "numerics/grid.h"
+#include "numerics/inverse_distance.h"
 #include "numerics/linear_system.h"
 #include "numerics/poly_fit.h"
 #include "numerics/radial_basis.h"
@@ -83,12 +84,12 @@ void addGridding(std::vector<Routine>& all) {
         const char* growth;
     };
     const Method methods[] = {{"nearest neighbours", 1, tableRows, "about 0.1"},
-                              {"inverse squared distance", 2, tableRows, "1"},
+                              {"inverse squared distance", 2, numerics::shepardLastIndex, "1"},
                               {"multiquadric", 3, numerics::radialUnknowns, "1 to 3"},
                               {"thin plate spline", 4, numerics::radialUnknowns - 3, "1 to 3"},
                               {"quadratic", 5, numerics::fitPoints, "0 to 1"},
                               {"nearest neighbours of a volume", 101, tableRows, "about 0.1"},
-                              {"inverse squared distance of a volume", 102, tableRows, "1"},
+                              {"inverse squared distance of a volume", 102, numerics::shepardLastIndex, "1"},
                               {"quadratic of a volume", 103, numerics::fitPoints, "0 to 1"}};
     for (const Method& method : methods) {
         const bool isVolume = method.number > 100;
