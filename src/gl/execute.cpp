@@ -70,6 +70,12 @@ void setAttribute(Op op, const Arguments& a) {
     }
 }
 
+/// OpenGL refuses a volume without an inside and keeps its matrix. Such a call is left out: a far-off point or a strong
+/// zoom can ask for it, and the error would be held against the next frame.
+bool isVolume(const Arguments& a) {
+    return a.d(0) != a.d(1) && a.d(2) != a.d(3) && a.d(4) != a.d(5);
+}
+
 void changeMatrix(Op op, const Arguments& a) {
     switch (op) {
         case Op::MatrixMode:
@@ -97,10 +103,10 @@ void changeMatrix(Op op, const Arguments& a) {
             ::glScalef(a.f(0), a.f(1), a.f(2));
             break;
         case Op::Ortho:
-            ::glOrtho(a.d(0), a.d(1), a.d(2), a.d(3), a.d(4), a.d(5));
+            if (isVolume(a)) ::glOrtho(a.d(0), a.d(1), a.d(2), a.d(3), a.d(4), a.d(5));
             break;
         case Op::Frustum:
-            ::glFrustum(a.d(0), a.d(1), a.d(2), a.d(3), a.d(4), a.d(5));
+            if (isVolume(a) && a.d(4) > 0 && a.d(5) > 0) ::glFrustum(a.d(0), a.d(1), a.d(2), a.d(3), a.d(4), a.d(5));
             break;
         case Op::LookAt:
             ::gluLookAt(a.d(0), a.d(1), a.d(2), a.d(3), a.d(4), a.d(5), a.d(6), a.d(7), a.d(8));

@@ -271,6 +271,22 @@ TEST(Replay, PresentsAndReadsThePictureTheRightWayRound) {
     EXPECT_THAT(pixel, testing::ElementsAre(255, 255, 255, 255));
 }
 
+TEST(Replay, LeavesOutVolumesWithoutAnInside) {
+    const OffscreenContext context;
+    Replay replay;
+    DisplayList frame;
+    frame.glFrustum(-1, 1, -1, 1, -200, 2000);
+    frame.glFrustum(-1, 1, -1, 1, 0, 2000);
+    frame.glFrustum(-1, 1, 1, 1, 1, 2000);
+    frame.glOrtho(0, 0, -1, 1, 1, 2);
+    frame.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    frame.glColor3f(0, 0, 0);
+    addRectangle(frame, -1, -1, 0, 2);
+    EXPECT_TRUE(replay.draw(frame, 4, 4));
+    EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(replay.readPixels(), Pixels(4U * 4 * 3, 0)) << "the matrix stays";
+}
+
 TEST(Replay, FailsWhereTheContextCannot) {
     EXPECT_THROW(Replay(), base::Failure);
     const OffscreenContext context;
