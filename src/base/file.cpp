@@ -99,7 +99,10 @@ fs::path targetOf(const fs::path& path) {
 
 std::string readFile(const fs::path& path) {
     std::error_code error;
-    if (fs::is_directory(path, error)) failUnreadable(path, "it is a folder");
+    const fs::file_status status = fs::status(path, error);
+    if (fs::is_directory(status)) failUnreadable(path, "it is a folder");
+    // Opening a pipe would wait for whoever writes into it.
+    if (fs::exists(status) && !fs::is_regular_file(status)) failUnreadable(path, "it is not a regular file");
     std::ifstream file(path, std::ios::binary);
     if (!file) failUnreadable(path, systemReason());
     const std::uintmax_t size = fs::file_size(path, error);

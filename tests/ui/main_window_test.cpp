@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "core/refresh.h"
 #include "scripted_window.h"
@@ -101,6 +102,11 @@ TEST_F(MainWindow, failuresEndTheCommandAndKeepTheDocument) {
     answers = {Answer::No};
     window.run("mnuFileOpen");
     EXPECT_THAT(asked.back(), HasSubstr("cannot be read"));
+    chosen = folder / "pipe";
+    answers = {Answer::No};
+    ASSERT_EQ(mkfifo(chosen.c_str(), 0600), 0);
+    window.run("mnuFileOpen");
+    EXPECT_THAT(asked.back(), HasSubstr("not a regular file")) << "nobody writes into the pipe";
     EXPECT_EQ(state.ShownGraphs.Graphs.size(), 1U);
     state.panel.setText(1, "30000");
     window.Command1_Click();
