@@ -58,7 +58,6 @@ void frmF1::mnuEditCopyAs_Click() {
 }
 
 void frmF1::mnuFilePrint_Click() {
-    if (state_.AllGraphs.empty()) return state_.desktop.status("There is no graph to print.");
     state_.desktop.displayPicture();
     handOver(state_, [this](const fs::path& path) { state_.desktop.printPicture(path); });
 }
