@@ -1,5 +1,5 @@
 #include "base/angle.h"
-#include "data/curvilinear.h"
+#include "base/curvilinear.h"
 #include "data/panel_reading.h"
 #include "data/range.h"
 
@@ -7,7 +7,9 @@ namespace tessaplot::data {
 
 namespace {
 
+using base::cylindricalPosition;
 using base::degreesToRadians;
+using base::sphericalPosition;
 
 /// Regular data start their extents here and not at the limits of numbers: values wholly beyond keep these starts.
 constexpr double regularStart = 10000;
@@ -31,8 +33,8 @@ void storeNode(ClsData& data, DataKind kind, int i, int j, double first, double 
     widen(first, data.MinA, data.MaxA);
     widen(second, data.MinB, data.MaxB);
     const double angle = degreesToRadians(first);
-    const Position at = isCylindrical(kind) ? cylindricalPosition(angle, second, third)
-                                            : sphericalPosition(angle, degreesToRadians(second), third);
+    const base::Position at = isCylindrical(kind) ? cylindricalPosition(angle, second, third)
+                                                  : sphericalPosition(angle, degreesToRadians(second), third);
     data.Reg3DX(i, j) = at.x;
     data.Reg3DY(i, j) = at.y;
     data.Reg3DZ(i, j) = at.z;

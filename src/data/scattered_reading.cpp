@@ -1,7 +1,7 @@
 #include <utility>
 
 #include "base/angle.h"
-#include "data/curvilinear.h"
+#include "base/curvilinear.h"
 #include "data/panel_reading.h"
 #include "data/range.h"
 
@@ -9,7 +9,9 @@ namespace tessaplot::data {
 
 namespace {
 
+using base::cylindricalPosition;
 using base::degreesToRadians;
+using base::sphericalPosition;
 
 /// The extents of scattered points start here and not at the limits of numbers: values wholly beyond keep these starts.
 constexpr double irregularStart = 1e10;
@@ -69,7 +71,7 @@ void boxPointPositions(ClsData& data, DataKind kind) {
         const double first = data.Irreg3DX(i);
         const double second = data.Irreg3DY(i);
         const double third = data.Irreg3DZ(i);
-        const Position at =
+        const base::Position at =
             isCylindrical(kind) ? cylindricalPosition(first, second, third) : sphericalPosition(first, second, third);
         widen(at.x, data.MinX, data.MaxX);
         widen(at.y, data.MinY, data.MaxY);

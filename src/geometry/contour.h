@@ -83,6 +83,7 @@ struct SurfacePoint {
     friend bool operator==(const SurfacePoint&, const SurfacePoint&) = default;
 };
 
+/// A piece of a contour line.
 template <class Point>
 struct ContourSegment {
     Point from;

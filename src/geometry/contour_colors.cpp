@@ -1,20 +1,14 @@
 #include "geometry/contour_colors.h"
 
-#include <cmath>
-
 #include "base/failure.h"
 
 namespace tessaplot::geometry {
 
 namespace {
 
-/// The bytes of a packed colour, got in floating point and so signed as it is, over 255.
 ContourColor UnpackColour(base::PackedColor packed) {
-    const auto c = static_cast<double>(packed);
-    const double b = std::trunc(c / 256 / 256);
-    const double g = std::trunc((c - b * 256 * 256) / 256);
-    const double r = std::trunc(c - b * 256 * 256 - g * 256);
-    return {r / 255, g / 255, b / 255};
+    const auto [r, g, b] = base::channelsOf(packed);
+    return {r, g, b};
 }
 
 }  // namespace

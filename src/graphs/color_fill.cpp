@@ -75,11 +75,8 @@ double wayBetweenStops(const Cls9& graph, int i, double percent) {
 }  // namespace
 
 Rgb ColorToRGB(base::PackedColor color) {
-    const double c = color;
-    const double b = std::trunc(c / 256 / 256);
-    const double g = std::trunc((c - b * 256 * 256) / 256);
-    const double r = std::trunc(c - b * 256 * 256 - g * 256);
-    return {r / 255, g / 255, b / 255};
+    const auto [r, g, b] = base::channelsOf(color);
+    return {r, g, b};
 }
 
 void ApplyNamedMap(Cls9& graph, std::string_view name) {

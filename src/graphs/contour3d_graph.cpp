@@ -2,7 +2,7 @@
 #include <limits>
 
 #include "base/angle.h"
-#include "data/curvilinear.h"
+#include "base/curvilinear.h"
 #include "graphs/contour_lines.h"
 #include "graphs/emitters.h"
 #include "graphs/mesh_cell.h"
@@ -58,14 +58,14 @@ class OnSurface {
     DataPoint operator()(const SurfacePoint& at) const {
         const double p = onEdge(coordinates_.p, at);
         const double q = onEdge(coordinates_.q, at);
-        if (data::isCylindrical(kind_)) return scaled(data::cylindricalPosition(base::degreesToRadians(p), at.h, q));
+        if (data::isCylindrical(kind_)) return scaled(base::cylindricalPosition(base::degreesToRadians(p), at.h, q));
         if (data::isSpherical(kind_))
-            return scaled(data::sphericalPosition(base::degreesToRadians(q), base::degreesToRadians(p), at.h));
+            return scaled(base::sphericalPosition(base::degreesToRadians(q), base::degreesToRadians(p), at.h));
         return {q, p, at.h};
     }
 
  private:
-    DataPoint scaled(const data::Position& at) const {
+    DataPoint scaled(const base::Position& at) const {
         return {overScale(at.x, scaling_.ScaleX), overScale(at.y, scaling_.ScaleY), overScale(at.z, scaling_.ScaleZ)};
     }
 

@@ -1,9 +1,9 @@
 #include "numerics/grid.h"
 
-#include <cmath>
 #include <string>
 
 #include "base/angle.h"
+#include "base/curvilinear.h"
 #include "base/failure.h"
 #include "numerics/grid_passes.h"
 #include "numerics/radial_basis.h"
@@ -76,16 +76,11 @@ void storeNode(const SurfaceNodes& nodes, SurfaceCoordinates coordinates, std::s
     nodes.b[at] = second;
     nodes.d[at] = third;
     const double first = base::degreesToRadians(p);
-    if (cylindrical) {
-        nodes.x[at] = std::cos(first) * second;
-        nodes.y[at] = std::sin(first) * second;
-        nodes.z[at] = third;
-    } else {
-        const double polar = base::degreesToRadians(second);
-        nodes.x[at] = std::sin(polar) * third * std::cos(first);
-        nodes.y[at] = std::sin(polar) * third * std::sin(first);
-        nodes.z[at] = std::cos(polar) * third;
-    }
+    const base::Position place = cylindrical ? base::cylindricalPosition(first, second, third)
+                                             : base::sphericalPosition(first, base::degreesToRadians(second), third);
+    nodes.x[at] = place.x;
+    nodes.y[at] = place.y;
+    nodes.z[at] = place.z;
 }
 
 /// Stores the nodes in their order; false at a node whose value says, by the look of it, that its system failed.

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace tessaplot::data {
+namespace tessaplot::base {
 
 /// A place in Cartesian data axes.
 struct Position {
@@ -22,4 +22,4 @@ inline Position sphericalPosition(double longitude, double polar, double radius)
             std::cos(polar) * radius};
 }
 
-}  // namespace tessaplot::data
+}  // namespace tessaplot::base
