@@ -1,6 +1,7 @@
 #include "core/triangulation.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -25,7 +26,7 @@ void triangulatePoints(AppState& state) {
     std::vector<double> y = numberedFromOne(data.Irreg3DY, data.Points);
     geometry::Triangulation made = geometry::Triangulate(data.Points, x, y);
     state.TriangleList = std::move(made.triangles);
-    if (made.coincidentTests > 0) state.desktop.askUser({"Note", geometry::coincidentReport(made.coincidentTests)});
+    if (made.coincidentTests > 0) state.desktop.askUser({"Note", std::string(geometry::coincidentMessage)});
 }
 
 }  // namespace tessaplot::core

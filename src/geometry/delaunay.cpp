@@ -230,10 +230,4 @@ bool InCircle(double xp, double yp, double x1, double y1, double x2, double y2, 
     return circle.holds(xp, yp);
 }
 
-std::string coincidentReport(std::int64_t coincidentTests) {
-    if (coincidentTests == 0) return {};
-    return "INCIRCUM - F - Points are coincident !! (" + std::to_string(coincidentTests) +
-           (coincidentTests == 1 ? " test)" : " tests)");
-}
-
 }  // namespace tessaplot::geometry

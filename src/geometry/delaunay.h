@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <span>
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessaplot::geometry {
@@ -21,7 +21,7 @@ struct Triangle {
 /// What a triangulation gives: the triangles in the order of the routine, the first of them at index 0 here.
 struct Triangulation {
     std::vector<Triangle> triangles;
-    /// How many tests met a triangle without a circumcircle; `coincidentReport` words it for a person.
+    /// How many tests met a triangle without a circumcircle; `coincidentMessage` tells a person.
     std::int64_t coincidentTests = 0;
 };
 
@@ -44,7 +44,7 @@ Triangulation Triangulate(std::int32_t n, std::span<double> X, std::span<double>
 bool InCircle(double xp, double yp, double x1, double y1, double x2, double y2, double x3, double y3, double& xc,
               double& yc, double& r, std::int64_t& coincidentTests);
 
-/// The one message for all tests that met coincident points; empty for none.
-std::string coincidentReport(std::int64_t coincidentTests);
+/// The message for tests that met coincident points, shown once for all of them.
+inline constexpr std::string_view coincidentMessage = "INCIRCUM - F - Points are coincident !!";
 
 }  // namespace tessaplot::geometry
