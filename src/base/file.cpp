@@ -118,6 +118,8 @@ void writeFile(const fs::path& path, std::string_view bytes) {
     const fs::path target = targetOf(path);
     std::error_code error;
     if (fs::is_directory(target, error)) failUnwritable(path, "it is a folder");
+    // Renaming would replace a file that is protected against writing.
+    if (::access(target.c_str(), W_OK) != 0 && errno != ENOENT) failUnwritable(path, systemReason());
     FileBeside beside(target);
     beside.write(bytes);
     beside.takePlace();
