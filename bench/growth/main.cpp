@@ -60,7 +60,7 @@ double exponentOf(const std::vector<Measurement>& measured) {
         xx += size * size;
         xy += size * time;
     }
-    return (count * xy - x * y) / (count * xx - x * x);
+    return count > 1 ? (count * xy - x * y) / (count * xx - x * x) : 0;
 }
 
 void report(const Routine& routine) {

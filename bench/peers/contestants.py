@@ -88,9 +88,12 @@ class PictureProcess(Contestant):
         process = self._spawn(stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
         limit = threading.Timer(ANSWER_LIMIT, process.kill)  # wait() with a limit would look only every 50 ms.
         limit.start()
-        status = process.wait()
-        milliseconds = (time.perf_counter() - start) * 1e3
-        limit.cancel()
+        try:
+            status = process.wait()
+            milliseconds = (time.perf_counter() - start) * 1e3
+        finally:
+            limit.cancel()
+            process.kill()
         if status != 0:
             raise NoResult(f"ended with status {status}")
         share, size = share_of_file(self.places["picture"])

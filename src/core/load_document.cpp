@@ -2,6 +2,7 @@
 #include <future>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "core/document.h"
@@ -110,7 +111,11 @@ std::shared_ptr<DocumentAhead> readAhead(const std::filesystem::path& path) {
     if (path.empty()) return nullptr;
     auto ahead = std::make_shared<DocumentAhead>();
     ahead->path = path;
-    ahead->reading = std::async(std::launch::async, readWhole, path);
+    try {
+        ahead->reading = std::async(std::launch::async, readWhole, path);
+    } catch (const std::system_error&) {
+        return nullptr;  // There is no further thread: LoadDocument reads it.
+    }
     return ahead;
 }
 

@@ -37,6 +37,14 @@ void CellTexts::take(std::string text) {
     roomyBytes_ = roomFor(texts_.size());
 }
 
+void CellTexts::trim() {
+    std::size_t used = 0;
+    for (const Row& row : rows_)
+        for (const Place& place : row)
+            used += place.length;
+    if (texts_.size() > roomFor(used)) dropUnused();
+}
+
 void CellTexts::requireRoom(std::size_t bytes) const {
     if (bytes > std::numeric_limits<std::uint32_t>::max() - texts_.size())
         throw base::Failure(base::FailureCode::SubscriptOutOfRange, "The texts of the data grid exceed 4 GiB.");
@@ -51,7 +59,8 @@ void CellTexts::dropUnused() {
             place.start = static_cast<std::uint32_t>(start);
         }
     }
-    texts_ = std::move(used);
+    used.shrink_to_fit();
+    texts_.swap(used);  // A short text would be copied into the old memory.
     roomyBytes_ = roomFor(texts_.size());
 }
 

@@ -41,6 +41,9 @@ class CellTexts {
     /// Takes a text over, so that a place in it is one for a cell. Throws as `set` does.
     void take(std::string text);
 
+    /// Lets go of what no cell uses, if that is the larger part.
+    void trim();
+
     /// Bytes held.
     std::size_t bytes() const { return rows_.capacity() * sizeof(Row) + texts_.capacity(); }
 

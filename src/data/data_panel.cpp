@@ -108,6 +108,7 @@ void DataPanel::fillRows(std::string text, std::span<const CellTexts::Place> pla
         std::fill_n(std::ranges::copy(given, rows[row].begin()).out, width - given.size(), CellTexts::Place{});
         places = places.subspan(given.size());
     }
+    cells_.trim();
 }
 
 bool DataPanel::GetCellText(int row, int column, std::string& text) const {
@@ -178,10 +179,6 @@ void DataPanel::layOut() {
         indexForm_ = IndexForm::Pair;
         indexColumns_ = count(2);
     }
-}
-
-void DataPanel::clearCells() {
-    cells_ = {};
 }
 
 std::size_t DataPanel::bytes() const {

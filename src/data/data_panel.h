@@ -79,8 +79,6 @@ class DataPanel {
     /// The number that box 1 to 10 holds, by its numeric prefix.
     double number(int box) const;
 
-    /// Drops the texts of all cells; kind, boxes and shape stay.
-    void clearCells();
     /// Bytes held by the cells.
     std::size_t bytes() const;
 

@@ -1,6 +1,7 @@
 #include "gl/font_file.h"
 
 #include <memory>
+#include <system_error>
 
 #include <fontconfig/fontconfig.h>
 
@@ -19,7 +20,11 @@ void failFont(const std::string& reason) {
 }
 
 std::future<void> prepareFonts() {
-    return std::async(std::launch::async, [] { FcInit(); });
+    try {
+        return std::async(std::launch::async, [] { FcInit(); });
+    } catch (const std::system_error&) {
+        return {};  // There is no further thread: who needs a font first waits.
+    }
 }
 
 FontFile findFont(const std::string& family) {

@@ -1,6 +1,5 @@
 #include "pictures/formats.h"
 
-#include <array>
 #include <string>
 
 #include <dlfcn.h>
@@ -13,14 +12,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The installed module comes first, so that an installed program never loads that of a build folder.
+/// An installed program never loads the module of a build folder.
 fs::path findModule() {
     std::error_code error;
     const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    const std::array<fs::path, 2> places{
-        program.parent_path() / ".." / TESSAPLOT_MODULE_FOLDER / TESSAPLOT_FORMATS_NAME, TESSAPLOT_BUILT_FORMATS};
-    for (const fs::path& place : places)
-        if (fs::exists(place, error)) return place;
+    const bool isBuilt = program.native().starts_with(TESSAPLOT_BUILD_FOLDER "/");
+    const fs::path place = isBuilt ? fs::path(TESSAPLOT_BUILT_FORMATS)
+                                   : program.parent_path() / ".." / TESSAPLOT_MODULE_FOLDER / TESSAPLOT_FORMATS_NAME;
+    if (!program.empty() && fs::exists(place, error)) return place;
     throw base::Failure(base::FailureCode::FileUnreadable,
                         "The part of Tessaplot for pictures other than PNG (" TESSAPLOT_FORMATS_NAME ") is missing.");
 }

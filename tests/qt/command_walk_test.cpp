@@ -45,7 +45,7 @@ class CommandWalk : public WindowTest {
         form.Combo1_Click(0);
         choose(document == '2' ? "mnuFileNew2D" : document == '4' ? "mnuFileNew4D" : "mnuFileNew3D");
         answers.clear();
-        state.panel.clearCells();
+        state.panel = {};
         addGraph();
         tick(Qt::Checked);
         find<QListView>("List1")->setCurrentIndex(find<QListView>("List1")->model()->index(0, 0));

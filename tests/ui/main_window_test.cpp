@@ -79,7 +79,7 @@ TEST_F(MainWindow, savesAndOpensAgain) {
     EXPECT_THAT(status, HasSubstr("one.tsp"));
     answers = {Answer::No};
     window.run("mnuFileNew3D");
-    state.panel.clearCells();
+    state.panel.setCell(3, 2, "");
     asked.clear();
     window.run("mnuFileOpen");
     EXPECT_EQ(theQuestion(), "Open File (*.tsp)|*.tsp");
