@@ -5,7 +5,6 @@
 
 #include "core/document.h"
 #include "gl/font_file.h"
-#include "gl/large_pages.h"
 #include "qt/application.h"
 #include "qt/opengl_format.h"
 #include "qt/program.h"
@@ -57,7 +56,6 @@ int main(int argc, char** argv) {
         return 1;
     }
     // Most of the start goes into the toolkit and the driver: what needs neither is done meanwhile.
-    tessaplot::gl::preferLargePages();
     auto ahead = tessaplot::core::readAhead(document);
     const auto fonts = tessaplot::gl::prepareFonts();
     tessaplot::qt::requestOpenGl();

@@ -18,7 +18,6 @@ namespace {
 constexpr int mebibyte = 1 << 20;
 /// What a picture of common size takes with its samples, and the document.
 constexpr int heapStep = 64 * mebibyte;
-constexpr int usualStep = 128 * 1024;
 /// Larger blocks come from the system one by one, smaller ones from the heap.
 constexpr int largestOnHeap = 32 * mebibyte;
 constexpr std::uintptr_t largePage = 2 * mebibyte;
@@ -35,8 +34,8 @@ void preferLargePages() {
     mallopt(M_MMAP_THRESHOLD, largestOnHeap);
     mallopt(M_TRIM_THRESHOLD, 2 * heapStep);
     mallopt(M_TOP_PAD, heapStep);
+    mallopt(M_ARENA_MAX, 1);  // A heap for each thread would grow by as much.
     growHeap();
-    mallopt(M_TOP_PAD, usualStep);  // The heaps of threads would grow by as much.
     const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0));
     const std::uintptr_t begin = (end - heapStep + largePage - 1) / largePage * largePage;
     if (begin < end) madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
