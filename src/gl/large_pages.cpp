@@ -16,8 +16,8 @@ namespace tessaplot::gl {
 namespace {
 
 constexpr int mebibyte = 1 << 20;
-/// What a picture of common size takes with its samples, and the document.
-constexpr int heapStep = 64 * mebibyte;
+/// More than a picture of common size takes with its samples, and the document.
+constexpr int heapStep = 128 * mebibyte;
 /// Larger blocks come from the system one by one, smaller ones from the heap.
 constexpr int largestOnHeap = 32 * mebibyte;
 constexpr std::uintptr_t largePage = 2 * mebibyte;
