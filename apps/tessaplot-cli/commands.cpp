@@ -15,7 +15,6 @@
 #include "core/app_state.h"
 #include "core/document.h"
 #include "core/refresh.h"
-#include "gl/large_pages.h"
 #include "gl/offscreen_context.h"
 #include "gl/replay.h"
 #include "pictures/picture_file.h"
@@ -114,7 +113,6 @@ core::Document readKnownDocument(const std::filesystem::path& path) {
 }
 
 void render(const RenderOptions& options) {
-    gl::preferLargePages();
     auto preparedContext = gl::OffscreenContext::prepare();
     std::unique_ptr<core::AppState> state;
     std::unique_ptr<PictureMaker> maker;
