@@ -99,7 +99,7 @@ void ValueToRGB(Cls9& graph, double value, double lower, double range, Rgb& colo
 }
 
 void rampColor(const Cls9& graph, double value, double lower, double range, Rgb& color) {
-    const int last = graph.ColorNum - 1;
+    const int last = std::max(graph.ColorNum, 0) - 1;
     const double percent = (value - lower) / range * 100;
     for (int i = 0; i < last; ++i) {
         if (!(percent >= graph.ColorPos(i)) || !(percent <= graph.ColorPos(i + 1))) continue;
