@@ -188,11 +188,15 @@ void MainWindow::takeDefaultSize() {
 }
 
 void MainWindow::start(const std::filesystem::path& path) {
+    picture_->setHeld(true);  // The scene without the document would be drawn for nothing.
     show();
     if (picture_->surface() == nullptr)
         form_.state().desktop.askUser({"Tessaplot", "ChoosePixelFormat failed", platform::Icon::Error});
     acting_ = true;
-    const auto end = qScopeGuard([this] { endRun(); });
+    const auto end = qScopeGuard([this] {
+        picture_->setHeld(false);
+        endRun();
+    });
     form_.load(path);
 }
 

@@ -45,6 +45,10 @@ void PicturePane::display() {
     if (surface_ != nullptr) surface_->update();
 }
 
+void PicturePane::setHeld(bool held) {
+    if (surface_ != nullptr) surface_->setHeld(held);
+}
+
 std::vector<std::uint8_t> PicturePane::readFrame(int width, int height) const {
     if (surface_ == nullptr) throw base::Failure(base::FailureCode::OpenGl, "There is no picture without OpenGL.");
     return surface_->readFrame(width, height);

@@ -21,6 +21,8 @@ class PicturePane : public QStackedWidget {
 
     /// Shows the compiled scene as soon as the window system asks for it.
     void display();
+    /// `PictureWidget::setHeld`.
+    void setHeld(bool held);
 
     /// The drawing surface; null if there is no OpenGL to draw with.
     PictureWidget* surface() const { return surface_; }

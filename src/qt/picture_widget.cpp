@@ -72,11 +72,16 @@ void PictureWidget::paint() {
     constexpr std::array<float, 4> ground{1, 1, 1, 1};
     context()->extraFunctions()->glClearBufferfv(GL_COLOR, 0, ground.data());
     tellSize();  // A move to a screen of another density changes it without a resize.
-    if (!state_.compiled.list900) return;
+    if (held_ || !state_.compiled.list900) return;
     draw();
     const QSize size = pictureSize();
     replay_->present(defaultFramebufferObject(), size.width(), size.height());
     tellTrouble();
+}
+
+void PictureWidget::setHeld(bool held) {
+    held_ = held;
+    if (!held) update();
 }
 
 void PictureWidget::draw() {

@@ -26,6 +26,9 @@ class PictureWidget : public QOpenGLWidget {
     /// remain at the right edge stay white.
     QSize pictureSize() const;
 
+    /// A picture that is held stays white until it is let go.
+    void setHeld(bool held);
+
     /// The compiled scene as RGB bytes from the lower left corner, bottom row first, rows padded to 4 bytes; what lies
     /// beyond the picture is white. Throws Failure (OpenGl) if it cannot be drawn.
     std::vector<std::uint8_t> readFrame(int width, int height);
@@ -64,6 +67,7 @@ class PictureWidget : public QOpenGLWidget {
     core::AppState& state_;
     std::unique_ptr<gl::Replay> replay_;
     QSize toldSize_;
+    bool held_ = false;
     bool troubleTold_ = false;
 };
 
