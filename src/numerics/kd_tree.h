@@ -8,6 +8,8 @@
 #include <span>
 #include <vector>
 
+#include "numerics/parallel_pieces.h"
+
 namespace tessaplot::numerics {
 
 /// A point found by a search: its index and its squared distance.
@@ -26,7 +28,11 @@ class NearestList {
  public:
     static constexpr std::size_t capacity = 5;
 
-    explicit NearestList(std::size_t wanted) : wanted_(wanted) {}
+    /// For the nearest `wanted` points, none of which lies beyond `largestSquare`.
+    explicit NearestList(std::size_t wanted, double largestSquare = std::numeric_limits<double>::infinity())
+        : wanted_(wanted) {
+        found_.fill({.square = largestSquare});
+    }
 
     const Neighbour& worst() const { return found_[wanted_ - 1]; }
     std::span<const Neighbour> found() const { return {found_.data(), wanted_}; }
@@ -63,8 +69,8 @@ class KdTree {
                 entries[i].position[axis] = columns[axis][i];
             entries[i].index = static_cast<std::uint32_t>(i);
         }
-        nodes_.reserve(4 * count / leafPoints + 1);
-        build(entries, 0, count);
+        nodes_.resize(nodesOver(count));
+        build(entries, {0, count, 0});
         store(entries);
     }
 
@@ -77,6 +83,7 @@ class KdTree {
 
  private:
     static constexpr std::size_t leafPoints = 24;
+    static constexpr std::size_t pointsWorthThreads = 8192;
 
     struct Entry {
         Position position;
@@ -90,19 +97,37 @@ class KdTree {
         std::uint32_t second = 0;          ///< Its second child; the first follows the node. 0 in a leaf.
     };
 
-    std::size_t build(std::span<Entry> entries, std::size_t begin, std::size_t end) {
-        const std::size_t at = nodes_.size();
-        nodes_.push_back(boundedNode(entries, begin, end));
-        if (end - begin <= leafPoints) return at;
-        const std::size_t axis = widestAxis(nodes_[at]);
+    /// Entries from `begin` to `end` and the place of the node over them.
+    struct Part {
+        std::size_t begin, end, at;
+    };
+
+    /// The nodes of the tree over so many points.
+    static std::size_t nodesOver(std::size_t points) {
+        return points <= leafPoints ? 1 : 1 + nodesOver(points / 2) + nodesOver(points - points / 2);
+    }
+
+    void build(std::span<Entry> entries, const Part& part) {
+        const auto [begin, end, at] = part;
+        Node& node = nodes_[at];
+        node = boundedNode(entries, begin, end);
+        if (end - begin <= leafPoints) return;
         const std::size_t middle = begin + (end - begin) / 2;
         Entry* const first = entries.data();
-        std::nth_element(first + begin, first + middle, first + end,
-                         [axis](const Entry& a, const Entry& b) { return a.position[axis] < b.position[axis]; });
-        build(entries, begin, middle);
-        const std::size_t second = build(entries, middle, end);
-        nodes_[at].second = static_cast<std::uint32_t>(second);
-        return at;
+        std::nth_element(
+            first + begin, first + middle, first + end,
+            [axis = widestAxis(node)](const Entry& a, const Entry& b) { return a.position[axis] < b.position[axis]; });
+        const std::size_t second = at + 1 + nodesOver(middle - begin);
+        node.second = static_cast<std::uint32_t>(second);
+        const std::array<Part, 2> halves = {{{begin, middle, at + 1}, {middle, end, second}}};
+        const auto buildHalves = [&](std::size_t from, std::size_t to) {
+            for (std::size_t half = from; half < to; ++half)
+                build(entries, halves[half]);
+        };
+        if (end - begin < pointsWorthThreads)
+            buildHalves(0, halves.size());
+        else
+            forEachPiece(halves.size(), 1, buildHalves, {});
     }
 
     static Node boundedNode(std::span<const Entry> entries, std::size_t begin, std::size_t end) {

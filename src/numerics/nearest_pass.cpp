@@ -55,19 +55,35 @@ struct Wanted {
     std::vector<double>* target;
 };
 
+/// The square to the farthest of `points`, summed as the tree does.
+template <std::size_t dimensions, class Term>
+double largestSquare(const std::array<std::span<const double>, dimensions>& columns, std::span<const Neighbour> points,
+                     const typename KdTree<dimensions>::Position& position, const Term& term) {
+    double largest = 0;
+    for (const Neighbour& point : points) {
+        double square = term(0, columns[0][point.index] - position[0]);
+        for (std::size_t axis = 1; axis < dimensions; ++axis)
+            square += term(axis, columns[axis][point.index] - position[axis]);
+        largest = std::max(largest, square);
+    }
+    return largest;
+}
+
 /// Sets the wanted columns by one search for each node; `bringInto` turns node positions into those of the tree.
 template <std::size_t dimensions, class Term, class BringInto>
 void searchAll(const std::array<std::span<const double>, dimensions>& columns, const Term& term,
                const BringInto& bringInto, const Lattice& lattice, const Progress& progress,
                std::span<const Wanted> wanted) {
     const KdTree<dimensions> tree(columns);
-    const int k = countOf(static_cast<int>(columns[0].size()));
+    const auto k = static_cast<std::size_t>(countOf(static_cast<int>(columns[0].size())));
     forEachBlock(lattice, progress, [&](std::size_t first, std::size_t present, NodeBlock& block) {
         bringInto(block);
+        NearestList nearest(k);
         for (std::size_t lane = 0; lane < present; ++lane) {
             typename KdTree<dimensions>::Position position = {block.x[lane], block.y[lane]};
             if constexpr (dimensions == 3) position[2] = block.z[lane];
-            NearestList nearest(static_cast<std::size_t>(k));
+            // As many points lie no farther than the nearest ones of the node before.
+            if (lane > 0) nearest = NearestList(k, largestSquare<dimensions>(columns, nearest.found(), position, term));
             tree.search(position, term, nearest);
             for (const Wanted& each : wanted)
                 (*each.target)[first + lane] = orUnset(blendOf(nearest.found(), each.source));

@@ -69,6 +69,11 @@ TEST(Grid, SurfacesEqualThePlainRoutinesBitForBit) {
                 }
 }
 
+TEST(Grid, IndexesThatThreadsMakeFindTheNeighboursOfThePlainRoutine) {
+    for (const Scatter scatter : {Scatter::Random, Scatter::Clustered, Scatter::Collinear, Scatter::OnNodes})
+        expectSurfaceAsPlain(scatter, SurfaceCoordinates::Cartesian, 1, 19000);
+}
+
 TEST(Grid, VolumesEqualThePlainRoutinesBitForBit) {
     for (const auto& [scatter, name] : allScatters)
         for (const int points : {3, 17, 400})
