@@ -5,9 +5,8 @@
 #include <chrono>
 #include <exception>
 #include <mutex>
-#include <system_error>
-#include <thread>
-#include <vector>
+
+#include "numerics/helper_threads.h"
 
 namespace tessaplot::numerics {
 
@@ -73,20 +72,6 @@ void runWithProgress(Pieces& pieces, const Progress& progress) {
     }
 }
 
-/// One thread less than there are cores or pieces; fewer still where the system refuses them.
-std::vector<std::jthread> startHelpers(Pieces& pieces) {
-    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-    const std::size_t wanted = std::min(cores, pieces.pieceCount()) - 1;
-    std::vector<std::jthread> helpers;
-    try {
-        while (helpers.size() < wanted)
-            helpers.emplace_back([&pieces] { pieces.runAll(); });
-    } catch (const std::system_error&) {
-        return helpers;
-    }
-    return helpers;
-}
-
 }  // namespace
 
 Progress partOf(const Progress& whole, double from, double to) {
@@ -99,7 +84,7 @@ void forEachPiece(std::size_t count, std::size_t pieceSize, const std::function<
     if (count == 0) return;
     Pieces pieces(count, pieceSize, work);
     {
-        const std::vector<std::jthread> helpers = startHelpers(pieces);
+        const HelperThreads::Help help(pieces.pieceCount() - 1, [&pieces] { pieces.runAll(); });
         try {
             runWithProgress(pieces, progress);
         } catch (...) {
