@@ -46,7 +46,7 @@ class Pieces {
     }
     std::size_t pieceCount() const { return (count_ + pieceSize_ - 1) / pieceSize_; }
 
-    /// Only when the other threads have ended.
+    /// Only when the other threads have left the work.
     void rethrow() const {
         if (thrown_) std::rethrow_exception(thrown_);
     }
